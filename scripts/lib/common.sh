@@ -1,0 +1,37 @@
+# Shared by scripts/run and scripts/test: installs what is missing, then configures and builds a preset.
+# Sourced, not run.
+
+PAVONEL_ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+
+# Installs the Debian packages that are not installed yet: directly when run as root, otherwise it prints
+# the one command to run and stops.
+pavonel_ensure_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    if [ "$(id -u)" -ne 0 ]; then
+        echo "Pavonel needs these Debian packages first. Please run:" >&2
+        echo "  sudo apt-get install --no-install-recommends ${missing[*]}" >&2
+        exit 1
+    fi
+    echo "Installing Debian packages: ${missing[*]}"
+    apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures the preset once (later builds re-run CMake by themselves when a CMake file changes), then builds.
+pavonel_build() {
+    local preset=$1
+    shift
+    cd "$PAVONEL_ROOT"
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        cmake --preset "$preset" >/dev/null
+    fi
+    cmake --build --preset "$preset" "$@" | grep -v '^\[[0-9]*/[0-9]*\] ' || true
+    [ "${PIPESTATUS[0]}" -eq 0 ]
+}
+
+PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev)
+PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format)

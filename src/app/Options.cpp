@@ -1,0 +1,49 @@
+#include "app/Options.h"
+
+#include "base/mString.h"
+#include "error/mError.h"
+
+void Options::LoadData() try {
+    m_loaded = false;
+    m_editorPath = m_settings.Read_EditorPath();
+    m_language = m_settings.Read_Language();
+    m_showStartTarvolinDialog = m_settings.Read_ShowStartTarvolinDialog();
+    m_loaded = true;
+} catch (...) {
+    mError::PassOn("Options.LoadData");
+}
+
+void Options::SaveData() try {
+    iniFile::Update save = m_settings.BeginSave();
+    m_settings.Write_EditorPath(m_editorPath);
+    m_settings.Write_Language(m_language);
+    m_settings.Write_ShowStartTarvolinDialog(m_showStartTarvolinDialog);
+} catch (...) {
+    mError::PassOn("Options.SaveData");
+}
+
+void Options::SetEditorPath(const std::string& value) {
+    if (value == m_editorPath)
+        return;
+    m_editorPath = value;
+    m_dataChanged = true;
+}
+
+std::string Options::Language() const {
+    return mString::UCase(m_language);
+}
+
+void Options::SetLanguage(const std::string& value) {
+    std::string upper = mString::UCase(value);
+    if (upper == m_language)
+        return;
+    m_language = upper;
+    m_dataChanged = true;
+}
+
+void Options::SetShowStartTarvolinDialog(bool value) {
+    if (value == m_showStartTarvolinDialog)
+        return;
+    m_showStartTarvolinDialog = value;
+    m_dataChanged = true;
+}

@@ -1,0 +1,48 @@
+#include "app/mPath.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "base/mString.h"
+
+namespace mPath {
+namespace {
+
+std::filesystem::file_status StatusOf(const std::string& path) {
+    std::error_code ignored;
+    return std::filesystem::status(std::filesystem::path(path), ignored);
+}
+
+}  // namespace
+
+char Separator(PathFlavour flavour) {
+    return flavour == PathFlavour::Windows ? '\\' : '/';
+}
+
+bool FileExists(const std::string& path) {
+    if (path.empty())
+        return false;
+    std::filesystem::file_status status = StatusOf(path);
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+bool FolderExists(const std::string& path) {
+    return !path.empty() && std::filesystem::is_directory(StatusOf(path));
+}
+
+std::string AddOrRemoveBackslash(const std::string& path, bool add, PathFlavour flavour) {
+    if (mString::Trim(path).empty())
+        return path;
+    char separator = Separator(flavour);
+    bool ends = path.back() == separator;
+    if (add)
+        return ends ? path : path + separator;
+    return ends ? path.substr(0, path.size() - 1) : path;
+}
+
+std::string GetDirectoryPart(const std::string& path, PathFlavour flavour) {
+    std::string::size_type last = path.find_last_of(Separator(flavour));
+    return last == std::string::npos ? std::string() : path.substr(0, last + 1);
+}
+
+}  // namespace mPath

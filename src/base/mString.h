@@ -1,0 +1,39 @@
+// Small text helpers with the rules the program's texts follow: blanks are spaces, case folding is ASCII.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mString {
+
+// Removes leading and trailing spaces (tabs and other characters stay).
+std::string Trim(std::string_view text);
+std::string TrimLeft(std::string_view text);
+std::string TrimRight(std::string_view text);
+
+std::string UCase(std::string_view text);
+std::string LCase(std::string_view text);
+bool EqualsNoCase(std::string_view a, std::string_view b);
+bool StartsWithNoCase(std::string_view text, std::string_view prefix);
+
+// The text before the first NUL character, or the whole text when it holds none.
+std::string StripAtNul(std::string_view text);
+
+std::vector<std::string> Split(std::string_view text, char separator);
+
+// Replaces every occurrence of `find` from the 1-based position `start` on. After a hit the search goes on
+// behind the inserted replacement, so a replacement that contains `find` is not replaced again. `start` is
+// left where the next search would have begun. An empty `find` changes nothing.
+void ReplaceAll(std::string& text, std::string_view find, std::string_view replacement, std::size_t& start);
+
+// Converts a decimal text to a 16-bit integer like the game's settings expect: blanks around it and a
+// fraction (rounded half to even) are accepted. Raises failure 13 (type mismatch) for text that is no number
+// and 6 (overflow) for a number outside -32768..32767.
+int16_t ToInt16(std::string_view text);
+
+// True for text that ToInt16-style conversion would read as a number, whatever its size.
+bool IsNumeric(std::string_view text);
+
+}  // namespace mString

@@ -1,0 +1,57 @@
+#include "error/ErrorReport.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "Version.h"
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "platform/Platform.h"
+
+namespace {
+
+constexpr const char* kCrLf = "\r\n";
+
+struct Context {
+    std::string iniPath;
+    std::string gameVersion;
+    std::string gamePath;
+};
+
+Context GatherContext() {
+    if (!g_cApp)
+        return {"(g_cApp not defined)", "(g_cApp not defined)", "(g_cApp not defined)"};
+    return {g_cApp->IniPath(), "(g_cApp.ActiveProfile not defined)", "(g_cApp.ActiveProfile not defined)"};
+}
+
+std::string CurrentDirectory() {
+    std::error_code ignored;
+    return std::filesystem::current_path(ignored).string();
+}
+
+std::string ProgramVersion() {
+    return std::to_string(Version::kMajor) + "." + std::to_string(Version::kMinor) + "." +
+           std::to_string(Version::kRevision);
+}
+
+}  // namespace
+
+int32_t PlainErrorNumber(int32_t number) {
+    return number & 0x7FFBFFFF;
+}
+
+ErrorReport ComposeErrorReport(const Failure& failure) {
+    Context context = GatherContext();
+    std::string text;
+    text += "Pavonel-Version: " + ProgramVersion() + kCrLf + kCrLf;
+    text += "Description:" + std::string(kCrLf) + failure.Description() + kCrLf + kCrLf;
+    text += "Err.-Number: " + std::to_string(failure.Number()) + " (" +
+            std::to_string(PlainErrorNumber(failure.Number())) + ")" + kCrLf + kCrLf;
+    text += "Err.-Source: " + std::string(kCrLf) + failure.Source() + kCrLf + kCrLf;
+    text += "App-Path: " + Os().ProgramDirectory() + kCrLf;
+    text += "Cur.Path: " + CurrentDirectory() + kCrLf;
+    text += "Ini.Path: " + context.iniPath + kCrLf + kCrLf;
+    text += "Tarvolin-Version: " + context.gameVersion + kCrLf;
+    text += "Tarvolin-Path: " + context.gamePath;
+    return ErrorReport{failure.Number(), failure.Description(), failure.Source(), text};
+}

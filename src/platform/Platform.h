@@ -1,0 +1,45 @@
+// The only way core reaches the operating system for things a test must be able to replace: where the
+// program lives and what the shell is asked to open. Each OS has its implementation in its own folder;
+// tests install a recording fake.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+// Show commands for ShellExec.
+inline constexpr int32_t SW_HIDE_WINDOW = 0;
+inline constexpr int32_t SW_SHOW_NORMAL = 1;
+
+// Values above this returned by ShellExec mean success; smaller ones are the shell's error codes.
+inline constexpr int32_t kShellExecSuccessAbove = 32;
+inline constexpr int32_t SE_ERR_FILE_NOT_FOUND = 2;
+inline constexpr int32_t SE_ERR_PATH_NOT_FOUND = 3;
+inline constexpr int32_t SE_ERR_ACCESS_DENIED = 5;
+inline constexpr int32_t SE_ERR_NO_ASSOCIATION = 31;
+inline constexpr int32_t kShellExecOk = 42;
+
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    // The folder of the running executable, as the OS spells it, without a trailing separator
+    // (unless it is the root).
+    virtual std::string ProgramDirectory() = 0;
+
+    // Asks the shell to perform `verb` ("open") on `file`: an executable is started with `parameters` in
+    // `directory`; a document, folder, web or mail address opens in its handler. `owner` is the calling
+    // window's handle (0 for none). Returns a value above 32 on success.
+    virtual int32_t ShellExec(int64_t owner, const std::string& verb, const std::string& file,
+                              const std::string& parameters, const std::string& directory,
+                              int32_t showCommand) = 0;
+};
+
+// The installed platform (the native one when none is installed).
+Platform& Os();
+
+// Installs `platform` (not owned); nullptr returns to the native platform.
+void InstallPlatform(Platform* platform);
+
+// The implementation for the OS this program was built for.
+std::unique_ptr<Platform> CreateNativePlatform();

@@ -1,0 +1,143 @@
+#include "platform/FileSystem.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <ctime>
+
+namespace platform {
+namespace {
+
+FileStamp StampFrom(const struct stat& info) {
+    FileStamp stamp;
+    stamp.device = static_cast<uint64_t>(info.st_dev);
+    stamp.identity = static_cast<uint64_t>(info.st_ino);
+    stamp.size = static_cast<uint64_t>(info.st_size);
+    stamp.modified = static_cast<int64_t>(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec;
+    return stamp;
+}
+
+// The coarsest modification-time resolution of the file systems a settings file may live on.
+constexpr int64_t kTimeResolutionNs = 2'000'000'000;
+
+bool IsSettled(const FileStamp& stamp) {
+    struct timespec now {};
+    clock_gettime(CLOCK_REALTIME, &now);
+    int64_t nowNs = static_cast<int64_t>(now.tv_sec) * 1000000000 + now.tv_nsec;
+    return nowNs - stamp.modified > kTimeResolutionNs;
+}
+
+constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+
+std::string FolderOf(const std::string& path) {
+    std::string::size_type slash = path.find_last_of('/');
+    if (slash == std::string::npos)
+        return ".";
+    return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+// The file a write must replace: the target of a symbolic link rather than the link itself.
+std::string Resolved(const std::string& path) {
+    char buffer[PATH_MAX];
+    return realpath(path.c_str(), buffer) != nullptr ? std::string(buffer) : path;
+}
+
+bool WriteAll(int fd, const std::string& bytes) {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        ssize_t written = write(fd, bytes.data() + done, bytes.size() - done);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        done += static_cast<std::size_t>(written);
+    }
+    return true;
+}
+
+mode_t NewFileMode() {
+    mode_t mask = umask(0);
+    umask(mask);
+    return 0666 & ~mask;
+}
+
+// Writes `bytes` into a new temporary file beside `target` and renames it over `target`. On any error the
+// temporary file is removed and `target` is untouched.
+std::optional<FileStamp> WriteAndRename(const std::string& target, const std::string& bytes, mode_t mode) {
+    std::string folder = FolderOf(target);
+    std::string name = target.substr(target.find_last_of('/') + 1);
+    std::string temporary = folder + "/." + name + ".XXXXXX";
+    int fd = mkstemp(temporary.data());
+    if (fd < 0)
+        return std::nullopt;
+    struct stat info {};
+    bool ok = fchmod(fd, mode) == 0 && WriteAll(fd, bytes) && fsync(fd) == 0 && fstat(fd, &info) == 0;
+    ok = close(fd) == 0 && ok;
+    // The content is on the disk before the rename, so whatever survives a crash is a complete file.
+    if (ok && rename(temporary.c_str(), target.c_str()) == 0)
+        return StampFrom(info);
+    unlink(temporary.c_str());
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<FileStamp> StampOf(const std::string& path) {
+    struct stat info {};
+    if (stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode))
+        return std::nullopt;
+    return StampFrom(info);
+}
+
+std::optional<FileContent> ReadFile(const std::string& path) {
+    int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return std::nullopt;
+    FileContent content;
+    struct stat info {};
+    bool ok = fstat(fd, &info) == 0 && S_ISREG(info.st_mode);
+    if (ok) {
+        content.stamp = StampFrom(info);
+        content.settled = IsSettled(content.stamp);
+        content.bytes.resize(static_cast<std::size_t>(info.st_size));
+        std::size_t done = 0;
+        while (ok && done < content.bytes.size()) {
+            ssize_t got = read(fd, content.bytes.data() + done, content.bytes.size() - done);
+            if (got < 0 && errno == EINTR)
+                continue;
+            ok = got > 0;
+            done += ok ? static_cast<std::size_t>(got) : 0;
+        }
+    }
+    close(fd);
+    if (!ok)
+        return std::nullopt;
+    return content;
+}
+
+bool CanReplaceFile(const std::string& path) {
+    std::string target = Resolved(path);
+    std::string folder = FolderOf(target);
+    struct stat info {};
+    if (stat(folder.c_str(), &info) != 0 || !S_ISDIR(info.st_mode))
+        return false;
+    if ((info.st_mode & kAnyWrite) == 0 || access(folder.c_str(), W_OK | X_OK) != 0)
+        return false;
+    if (stat(target.c_str(), &info) != 0)
+        return errno == ENOENT;
+    return S_ISREG(info.st_mode) && (info.st_mode & kAnyWrite) != 0 &&
+           access(target.c_str(), R_OK | W_OK) == 0;
+}
+
+std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes) {
+    std::string target = Resolved(path);
+    struct stat info {};
+    mode_t mode = stat(target.c_str(), &info) == 0 ? (info.st_mode & 07777) : NewFileMode();
+    return WriteAndRename(target, bytes, mode);
+}
+
+}  // namespace platform

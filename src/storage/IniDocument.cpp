@@ -1,0 +1,198 @@
+#include "storage/IniDocument.h"
+
+#include <algorithm>
+
+#include "base/mString.h"
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kLineBreaks = "\r\n";
+constexpr std::string_view kEolText[] = {"", "\r\n", "\n", "\r"};
+
+std::string_view TrimBlanks(std::string_view text) {
+    std::size_t first = text.find_first_not_of(kBlanks);
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::string_view Unquoted(std::string_view value) {
+    bool quoted =
+        value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.back() == value.front();
+    return quoted ? value.substr(1, value.size() - 2) : value;
+}
+
+// Concatenates with append, which also keeps GCC 12's false -Wrestrict alarm on string operator+ away.
+std::string Concat(std::string_view a, std::string_view b, std::string_view c) {
+    std::string text;
+    text.reserve(a.size() + b.size() + c.size());
+    text.append(a).append(b).append(c);
+    return text;
+}
+
+}  // namespace
+
+IniDocument::Line IniDocument::ParseLine(std::string_view text, Eol eol) {
+    Line line{std::string(text), eol, Kind::Other, {}};
+    std::string_view content = TrimBlanks(text);
+    if (content.starts_with('[')) {
+        std::string_view inside = content.substr(1);
+        line.kind = Kind::Header;
+        line.name = mString::LCase(TrimBlanks(inside.substr(0, inside.find(']'))));
+    } else if (!content.starts_with(';')) {
+        std::size_t equals = text.find('=');
+        if (equals != std::string_view::npos) {
+            line.kind = Kind::Key;
+            line.name = mString::LCase(TrimBlanks(text.substr(0, equals)));
+        }
+    }
+    return line;
+}
+
+std::string IniDocument::KeySpelling(const Line& line) {
+    return std::string(TrimBlanks(std::string_view(line.text).substr(0, line.text.find('='))));
+}
+
+std::string IniDocument::ValueOf(const Line& line) {
+    std::string_view raw = std::string_view(line.text).substr(line.text.find('=') + 1);
+    return std::string(Unquoted(TrimBlanks(raw)));
+}
+
+IniDocument IniDocument::Parse(std::string_view text) {
+    IniDocument document;
+    std::size_t begin = 0;
+    while (begin < text.size()) {
+        std::size_t end = text.find_first_of(kLineBreaks, begin);
+        if (end == std::string_view::npos) {
+            document.AddLine(ParseLine(text.substr(begin), Eol::None));
+            break;
+        }
+        bool crLf = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
+        Eol eol = crLf ? Eol::CrLf : (text[end] == '\n' ? Eol::Lf : Eol::Cr);
+        document.AddLine(ParseLine(text.substr(begin, end - begin), eol));
+        begin = end + (crLf ? 2 : 1);
+    }
+    return document;
+}
+
+void IniDocument::AddLine(Line line) {
+    if (line.kind == Kind::Header) {
+        m_firstSection.try_emplace(line.name, m_sections.size());
+        m_sections.emplace_back();
+    }
+    m_sections.back().lines.push_back(std::move(line));
+}
+
+std::string IniDocument::Serialize() const {
+    std::size_t size = 0;
+    for (const Section& section : m_sections) {
+        for (const Line& line : section.lines)
+            size += line.text.size() + 2;
+    }
+    std::string text;
+    text.reserve(size);
+    for (const Section& section : m_sections) {
+        for (const Line& line : section.lines)
+            text.append(line.text).append(kEolText[static_cast<int>(line.eol)]);
+    }
+    return text;
+}
+
+IniDocument::Section* IniDocument::Find(std::string_view section) {
+    auto found = m_firstSection.find(mString::LCase(section));
+    return found == m_firstSection.end() ? nullptr : &m_sections[found->second];
+}
+
+const IniDocument::Section* IniDocument::Find(std::string_view section) const {
+    return const_cast<IniDocument*>(this)->Find(section);
+}
+
+std::vector<IniDocument::Line>::const_iterator IniDocument::FindKey(const Section& section,
+                                                                    std::string_view key) {
+    std::string wanted = mString::LCase(key);
+    return std::find_if(section.lines.begin(), section.lines.end(), [&wanted](const Line& line) {
+        return line.kind == Kind::Key && line.name == wanted;
+    });
+}
+
+std::optional<std::string> IniDocument::Value(std::string_view section, std::string_view key) const {
+    const Section* found = Find(section);
+    if (found == nullptr)
+        return std::nullopt;
+    auto line = FindKey(*found, key);
+    if (line == found->lines.end())
+        return std::nullopt;
+    return ValueOf(*line);
+}
+
+void IniDocument::EnsureLastLineEnds() {
+    for (auto section = m_sections.rbegin(); section != m_sections.rend(); ++section) {
+        if (section->lines.empty())
+            continue;
+        if (section->lines.back().eol == Eol::None)
+            section->lines.back().eol = Eol::CrLf;
+        return;
+    }
+}
+
+void IniDocument::AppendSection(std::string_view section, std::string_view key, std::string_view value) {
+    EnsureLastLineEnds();
+    AddLine(ParseLine(Concat("[", section, "]"), Eol::CrLf));
+    AddLine(ParseLine(Concat(key, "=", value), Eol::CrLf));
+}
+
+bool IniDocument::SetValue(std::string_view section, std::string_view key, std::string_view value) {
+    Section* found = Find(section);
+    if (found == nullptr) {
+        AppendSection(section, key, value);
+        return true;
+    }
+    std::vector<Line>& lines = found->lines;
+    auto existing = FindKey(*found, key);
+    if (existing != lines.end()) {
+        Line& line = lines[static_cast<std::size_t>(existing - lines.begin())];
+        std::string text = Concat(KeySpelling(line), "=", value);
+        if (text == line.text && line.eol != Eol::None)
+            return false;
+        line.text = std::move(text);
+        line.eol = Eol::CrLf;
+        return true;
+    }
+    // A new key goes right behind the section's last key line, or behind its header when it has none.
+    auto lastKey =
+        std::find_if(lines.rbegin(), lines.rend(), [](const Line& l) { return l.kind == Kind::Key; });
+    std::size_t at = lastKey == lines.rend() ? 1 : static_cast<std::size_t>(lines.rend() - lastKey);
+    if (lines[at - 1].eol == Eol::None)
+        lines[at - 1].eol = Eol::CrLf;
+    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at),
+                 ParseLine(Concat(key, "=", value), Eol::CrLf));
+    return true;
+}
+
+bool IniDocument::DeleteKey(std::string_view section, std::string_view key) {
+    Section* found = Find(section);
+    if (found == nullptr)
+        return false;
+    auto line = FindKey(*found, key);
+    if (line == found->lines.end())
+        return false;
+    found->lines.erase(line);
+    return true;
+}
+
+bool IniDocument::DeleteSection(std::string_view section) {
+    auto found = m_firstSection.find(mString::LCase(section));
+    if (found == m_firstSection.end())
+        return false;
+    m_sections.erase(m_sections.begin() + static_cast<std::ptrdiff_t>(found->second));
+    Reindex();
+    return true;
+}
+
+void IniDocument::Reindex() {
+    m_firstSection.clear();
+    for (std::size_t i = 1; i < m_sections.size(); ++i) {
+        m_firstSection.try_emplace(m_sections[i].lines.front().name, i);
+    }
+}

@@ -1,0 +1,60 @@
+// A settings file held in memory line by line, so that a change rewrites only the line it must and every
+// other byte serialises exactly as it was read. Lookups follow the rules of the Windows private-profile
+// functions: names match without regard to case, the first section of a name and the first key in it win.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+class IniDocument {
+public:
+    static IniDocument Parse(std::string_view text);
+
+    std::string Serialize() const;
+
+    // `section` and `key` are compared without regard to case, exactly as given otherwise (the caller
+    // removes the spaces around them). The value comes without the blanks and one pair of quotes around it.
+    std::optional<std::string> Value(std::string_view section, std::string_view key) const;
+
+    // Each returns true when the document's text changed.
+    bool SetValue(std::string_view section, std::string_view key, std::string_view value);
+    bool DeleteKey(std::string_view section, std::string_view key);
+    bool DeleteSection(std::string_view section);
+
+private:
+    enum class Kind : unsigned char { Other, Header, Key };
+
+    // How a line ends; None only for a last line without a break.
+    enum class Eol : unsigned char { None, CrLf, Lf, Cr };
+
+    struct Line {
+        std::string text;
+        Eol eol = Eol::CrLf;
+        Kind kind = Kind::Other;
+        std::string name;  // lower-case section name of a header, key name of a key line
+    };
+
+    // A header line with the lines up to the next header; the first one holds the lines before any header.
+    struct Section {
+        std::vector<Line> lines;
+    };
+
+    static Line ParseLine(std::string_view text, Eol eol);
+    static std::string KeySpelling(const Line& line);
+    static std::string ValueOf(const Line& line);
+
+    void AddLine(Line line);
+    void Reindex();
+    Section* Find(std::string_view section);
+    const Section* Find(std::string_view section) const;
+    static std::vector<Line>::const_iterator FindKey(const Section& section, std::string_view key);
+    void EnsureLastLineEnds();
+    void AppendSection(std::string_view section, std::string_view key, std::string_view value);
+
+    std::vector<Section> m_sections{Section{}};
+    std::unordered_map<std::string, std::size_t> m_firstSection;  // lower-case name -> index
+};

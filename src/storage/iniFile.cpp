@@ -1,0 +1,41 @@
+#include "storage/iniFile.h"
+
+#include <utility>
+
+#include "base/mString.h"
+#include "storage/IniStore.h"
+
+namespace iniFile {
+
+IniStore& Store() {
+    static IniStore store;
+    return store;
+}
+
+std::string Read(const std::string& file, std::string_view section, std::string_view key,
+                 std::string_view defaultValue, std::size_t size) {
+    if (size == 0)
+        return {};
+    std::optional<std::string> value = Store().Read(file, mString::Trim(section), mString::Trim(key));
+    std::string text = value ? std::move(*value) : mString::TrimRight(defaultValue);
+    if (text.size() > size - 1)
+        text.resize(size - 1);
+    return text;
+}
+
+void Write(const std::string& file, std::string_view section, std::optional<std::string_view> key,
+           std::optional<std::string_view> value) {
+    std::string trimmedKey = key ? mString::Trim(*key) : std::string();
+    Store().Write(file, mString::Trim(section),
+                  key ? std::optional<std::string_view>(trimmedKey) : std::nullopt, value);
+}
+
+Update::Update(std::string file) : m_file(std::move(file)) {
+    Store().BeginUpdate(m_file);
+}
+
+Update::~Update() {
+    Store().EndUpdate(m_file);
+}
+
+}  // namespace iniFile

@@ -1,0 +1,39 @@
+// The settings-file engine: the semantics of the Windows private-profile functions on any OS.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+class IniStore;
+
+namespace iniFile {
+
+// The text that a buffer of `size` characters would receive when reading `key` of `section` in `file`:
+// the stored value, or `defaultValue` without its trailing spaces when the key (or section, or file) is
+// missing, cut to `size - 1` characters. Spaces around `section` and `key` are ignored.
+std::string Read(const std::string& file, std::string_view section, std::string_view key,
+                 std::string_view defaultValue, std::size_t size);
+
+// Sets `key` of `section` in `file` to `value`; no value deletes the key, no key deletes the section with
+// its keys. A missing folder, a folder in the file's place, or a read-only file or folder make it a no-op.
+void Write(const std::string& file, std::string_view section, std::optional<std::string_view> key,
+           std::optional<std::string_view> value);
+
+// Gathers every write to `file` made while it lives into one atomic update of the file, committed when
+// the last open update ends (also when a failure leaves the scope).
+class Update {
+public:
+    explicit Update(std::string file);
+    ~Update();
+    Update(const Update&) = delete;
+    Update& operator=(const Update&) = delete;
+
+private:
+    std::string m_file;
+};
+
+// The engine's parsed copies (tests use it to start from a clean state).
+IniStore& Store();
+
+}  // namespace iniFile

@@ -1,0 +1,181 @@
+// Bad files and bad moments: nothing crashes or hangs, and no write loses or half-writes a file.
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <random>
+#include <string>
+
+#include "storage/IniStore.h"
+#include "storage/iniFile.h"
+#include "support/TempDir.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class IniRobustness : public ::testing::Test {
+protected:
+    void SetUp() override { iniFile::Store().Clear(); }
+
+    std::string Read(const std::string& section, const std::string& key) const {
+        return iniFile::Read(file, section, key, "default", 255);
+    }
+
+    // The names in the folder, so a test can tell that no temporary file was left behind.
+    std::size_t EntriesInFolder() const {
+        return static_cast<std::size_t>(
+            std::distance(fs::directory_iterator(dir.Path()), fs::directory_iterator()));
+    }
+
+    TempDir dir;
+    std::string file = dir.File("Pavonel.ini");
+};
+
+TEST_F(IniRobustness, BinaryGarbageIsReadAndKeptByteForByte) {
+    std::mt19937 random(20261121);
+    std::string garbage(1 << 20, '\0');
+    for (char& c : garbage)
+        c = static_cast<char>(random());
+    dir.Write("Pavonel.ini", garbage);
+    EXPECT_EQ(Read("S", "k"), "default");
+    iniFile::Write(file, "Pavonel-Test", "k", "v");
+    std::string after = dir.Read("Pavonel.ini");
+    ASSERT_GE(after.size(), garbage.size());
+    EXPECT_EQ(after.substr(0, garbage.size()), garbage);
+    EXPECT_EQ(Read("Pavonel-Test", "k"), "v");
+}
+
+TEST_F(IniRobustness, HugeFileAndHugeLine) {
+    std::string content;
+    const std::string description(400, 'd');
+    for (int i = 0; content.size() < 50'000'000; ++i) {
+        content +=
+            "[profile_" + std::to_string(i) + "]\r\nRES_WIDTH=800\r\nDESCRIPTION=" + description + "\r\n";
+    }
+    content += "[Last]\r\nlong=" + std::string(1 << 20, 'x') + "\r\nshort=1\r\n";
+    dir.Write("Pavonel.ini", content);
+    EXPECT_EQ(Read("Last", "long"), std::string(254, 'x'));
+    EXPECT_EQ(Read("profile_77", "RES_WIDTH"), "800");
+    iniFile::Write(file, "Last", "short", "2");
+    std::string after = dir.Read("Pavonel.ini");
+    EXPECT_EQ(after.size(), content.size());
+    EXPECT_EQ(after.substr(0, content.size() - 9), content.substr(0, content.size() - 9));
+    EXPECT_EQ(Read("Last", "short"), "2");
+}
+
+TEST_F(IniRobustness, FolderInPlaceOfTheFile) {
+    fs::create_directory(file);
+    EXPECT_EQ(Read("S", "k"), "default");
+    iniFile::Write(file, "S", "k", "v");
+    EXPECT_TRUE(fs::is_directory(file));
+    EXPECT_EQ(Read("S", "k"), "default");
+}
+
+TEST_F(IniRobustness, WriteIntoMissingFolderIsIgnored) {
+    std::string nowhere = dir.File("missing/Pavonel.ini");
+    iniFile::Write(nowhere, "S", "k", "v");
+    EXPECT_FALSE(fs::exists(dir.Path() / "missing"));
+}
+
+TEST_F(IniRobustness, ReadOnlyFileIsLeftUntouched) {
+    dir.Write("Pavonel.ini", "[S]\nk=old\n");
+    EXPECT_EQ(Read("S", "k"), "old");
+    fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    iniFile::Write(file, "S", "k", "new");
+    iniFile::Write(file, "S", "other", "new");
+    EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\nk=old\n");
+    EXPECT_EQ(Read("S", "k"), "old");
+    EXPECT_EQ(Read("S", "other"), "default");
+}
+
+TEST_F(IniRobustness, ReadOnlyFolderLeavesFileUntouched) {
+    dir.Write("Pavonel.ini", "[S]\nk=old\n");
+    fs::permissions(dir.Path(), fs::perms::owner_read | fs::perms::owner_exec);
+    iniFile::Write(file, "S", "k", "new");
+    iniFile::Write(dir.File("Other.ini"), "S", "k", "new");
+    fs::permissions(dir.Path(), fs::perms::owner_all);
+    EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\nk=old\n");
+    EXPECT_EQ(EntriesInFolder(), 1u);
+    EXPECT_EQ(Read("S", "k"), "old");
+}
+
+TEST_F(IniRobustness, AnotherProgramsEditIsSeenAtTheNextRead) {
+    dir.Write("Pavonel.ini", "[S]\nk=1\n");
+    EXPECT_EQ(Read("S", "k"), "1");
+    dir.Write("Pavonel.ini", "[S]\nk=2\n");  // same size, same inode, within the file system's time tick
+    EXPECT_EQ(Read("S", "k"), "2");
+    dir.Write("replacement", "[S]\nk=three\n");
+    fs::rename(dir.File("replacement"), file);
+    EXPECT_EQ(Read("S", "k"), "three");
+    fs::remove(file);
+    EXPECT_EQ(Read("S", "k"), "default");
+}
+
+TEST_F(IniRobustness, WriteFollowsSymbolicLinkAndKeepsPermissions) {
+    dir.Write("real.ini", "[S]\nk=1\n");
+    fs::permissions(dir.File("real.ini"), fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink(dir.File("real.ini"), file);
+    iniFile::Write(file, "S", "k", "2");
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(dir.Read("real.ini"), "[S]\nk=2\r\n");
+    EXPECT_EQ(fs::status(dir.File("real.ini")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+// Lets writes fail once the file would grow beyond `limit` bytes, as a full disk would.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t limit) {
+        getrlimit(RLIMIT_FSIZE, &m_old);
+        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit lowered{limit, m_old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &lowered);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_old);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+
+private:
+    rlimit m_old{};
+    void (*m_oldHandler)(int);
+};
+
+TEST_F(IniRobustness, WriteFailingHalfWayLeavesTheOldFile) {
+    std::string old = "[S]\r\nk=old\r\n" + std::string(4000, ';') + "\r\n";
+    dir.Write("Pavonel.ini", old);
+    EXPECT_EQ(Read("S", "k"), "old");
+    {
+        FileSizeLimit limit(2048);
+        iniFile::Write(file, "S", "k", "new");
+    }
+    EXPECT_EQ(dir.Read("Pavonel.ini"), old);
+    EXPECT_EQ(EntriesInFolder(), 1u);
+    EXPECT_EQ(Read("S", "k"), "old");
+}
+
+TEST_F(IniRobustness, UpdateCommitsOnceAtTheEnd) {
+    dir.Write("Pavonel.ini", "[S]\r\na=0\r\n");
+    {
+        iniFile::Update update(file);
+        iniFile::Write(file, "S", "a", "1");
+        iniFile::Write(file, "T", "b", "2");
+        EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\r\na=0\r\n");
+        EXPECT_EQ(Read("T", "b"), "2");
+    }
+    EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\r\na=1\r\n[T]\r\nb=2\r\n");
+}
+
+TEST_F(IniRobustness, UpdateCommitsWhenAFailureLeavesIt) {
+    try {
+        iniFile::Update update(file);
+        iniFile::Write(file, "S", "a", "1");
+        throw std::runtime_error("failed half-way through a save");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\r\na=1\r\n");
+}
+
+}  // namespace

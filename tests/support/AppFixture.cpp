@@ -1,0 +1,39 @@
+#include "support/AppFixture.h"
+
+#include <filesystem>
+
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "storage/IniStore.h"
+#include "storage/iniFile.h"
+#include "translate/cTranslate.h"
+
+AppFixture::AppFixture() : platform(dir.Path().string()) {
+    iniFile::Store().Clear();
+    InstallPlatform(&platform);
+    InstallUserInterface(&ui);
+    std::filesystem::create_directory(dir.Path() / "config");
+    std::filesystem::create_directory(dir.Path() / "doc");
+    g_cApp = std::make_unique<Application>();
+    g_cTranslate = std::make_unique<cTranslate>();
+}
+
+AppFixture::~AppFixture() {
+    g_cTranslate.reset();
+    g_cApp.reset();
+    InstallUserInterface(nullptr);
+    InstallPlatform(nullptr);
+    iniFile::Store().Clear();
+}
+
+void AppFixture::WriteIni(const std::string& content) const {
+    dir.Write("Pavonel.ini", content);
+}
+
+std::string AppFixture::ReadIni() const {
+    return dir.Read("Pavonel.ini");
+}
+
+void AppFixture::WriteLanguage(const std::string& abbrev, const std::string& content) const {
+    dir.Write("config/LNG_" + abbrev + ".ini", content);
+}

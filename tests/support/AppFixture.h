@@ -1,0 +1,28 @@
+// The test fixture for everything above the storage engine: a fresh program folder, recording fakes for
+// the user interface and the platform, and the two program-wide objects created on it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/FakePlatform.h"
+#include "support/FakeUserInterface.h"
+#include "support/TempDir.h"
+
+class AppFixture : public ::testing::Test {
+protected:
+    AppFixture();
+    ~AppFixture() override;
+
+    // Writes the settings file Pavonel.ini of the program folder.
+    void WriteIni(const std::string& content) const;
+    std::string ReadIni() const;
+
+    // Writes config/LNG_<abbrev>.ini of the program folder.
+    void WriteLanguage(const std::string& abbrev, const std::string& content) const;
+
+    TempDir dir;
+    FakePlatform platform;
+    FakeUserInterface ui;
+};

@@ -1,0 +1,8 @@
+#include "support/FakePlatform.h"
+
+int32_t FakePlatform::ShellExec(int64_t owner, const std::string& verb, const std::string& file,
+                                const std::string& parameters, const std::string& directory,
+                                int32_t showCommand) {
+    calls.push_back({owner, verb, file, parameters, directory, showCommand});
+    return shellResult;
+}

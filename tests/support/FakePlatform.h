@@ -1,0 +1,34 @@
+// A Platform that lives in a test's own program folder and records what the shell was asked to do.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Platform.h"
+
+struct ShellCall {
+    int64_t owner;
+    std::string verb;
+    std::string file;
+    std::string parameters;
+    std::string directory;
+    int32_t showCommand;
+
+    bool operator==(const ShellCall&) const = default;
+};
+
+class FakePlatform : public Platform {
+public:
+    explicit FakePlatform(std::string programDirectory) : m_programDirectory(std::move(programDirectory)) {}
+
+    std::string ProgramDirectory() override { return m_programDirectory; }
+    int32_t ShellExec(int64_t owner, const std::string& verb, const std::string& file,
+                      const std::string& parameters, const std::string& directory,
+                      int32_t showCommand) override;
+
+    std::vector<ShellCall> calls;
+    int32_t shellResult = kShellExecOk;
+
+private:
+    std::string m_programDirectory;
+};

@@ -1,0 +1,46 @@
+#include "support/TempDir.h"
+
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <system_error>
+
+TempDir::TempDir() {
+    std::random_device random;
+    std::filesystem::path base = std::filesystem::temp_directory_path();
+    for (;;) {
+        m_path = base / ("pavonel-test-" + std::to_string(random()));
+        if (std::filesystem::create_directory(m_path))
+            break;
+    }
+}
+
+TempDir::~TempDir() {
+    std::error_code ignored;
+    // Tests may leave read-only entries behind; make everything writable so removal succeeds.
+    for (auto it = std::filesystem::recursive_directory_iterator(m_path, ignored);
+         it != std::filesystem::recursive_directory_iterator(); it.increment(ignored)) {
+        std::filesystem::permissions(it->path(), std::filesystem::perms::owner_all,
+                                     std::filesystem::perm_options::add, ignored);
+    }
+    std::filesystem::permissions(m_path, std::filesystem::perms::owner_all,
+                                 std::filesystem::perm_options::add, ignored);
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+std::string TempDir::File(const std::string& name) const {
+    return (m_path / name).string();
+}
+
+std::string TempDir::Write(const std::string& name, const std::string& bytes) const {
+    std::string path = File(name);
+    std::ofstream(path, std::ios::binary) << bytes;
+    return path;
+}
+
+std::string TempDir::Read(const std::string& name) const {
+    std::ifstream in(File(name), std::ios::binary);
+    std::ostringstream content;
+    content << in.rdbuf();
+    return content.str();
+}
