@@ -47,7 +47,7 @@ std::string Application::GetFAQFileName(const std::string& abbrev) {
 void Application::ShowFAQ(int64_t owner, const std::string& abbrev) const try {
     std::string path = m_docDirectory + GetFAQFileName(abbrev);
     if (mPath::FileExists(path)) {
-        Os().ShellExec(owner, "open", path, "", m_docDirectory, SW_SHOW_NORMAL);
+        Os().ShellExec(owner, "open", path, "", m_docDirectory, kSwShowNormal);
     } else {
         Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_FileNotFound", path), vbOKOnly);
     }
@@ -64,13 +64,13 @@ std::string Application::ContactAddress() {
 }
 
 void Application::ShowPavonelWebpage(int64_t owner) const try {
-    Os().ShellExec(owner, "open", WebpageAddress(), "", "", SW_SHOW_NORMAL);
+    Os().ShellExec(owner, "open", WebpageAddress(), "", "", kSwShowNormal);
 } catch (...) {
     mError::PassOn("Application.ShowPavonelWebpage");
 }
 
 void Application::ContactAuthor(int64_t owner) const try {
-    Os().ShellExec(owner, "open", ContactAddress(), "", "", SW_SHOW_NORMAL);
+    Os().ShellExec(owner, "open", ContactAddress(), "", "", kSwShowNormal);
 } catch (...) {
     mError::PassOn("Application.ContactAuthor");
 }

@@ -24,11 +24,7 @@ inline constexpr int32_t kPathFileAccessError = 75;
 // Numbers the program raises on purpose (combined with kObjectError by RaiseError).
 inline constexpr int32_t kInvalidValueWrite = 1;
 inline constexpr int32_t kInvalidValueRead = 2;
-inline constexpr int32_t kCommandLineMismatch = 20001;
-inline constexpr int32_t kInvalidResolutionId = 20002;
-inline constexpr int32_t kInputCheck = 20006;
 inline constexpr int32_t kLanguageAbbrev = 20007;
-inline constexpr int32_t kLinkNotWritten = 20008;
 
 // The range of program-defined object errors.
 inline constexpr int32_t kObjectError = static_cast<int32_t>(0x80040000u);

@@ -7,16 +7,15 @@
 #include <memory>
 #include <string>
 
-// Show commands for ShellExec.
-inline constexpr int32_t SW_HIDE_WINDOW = 0;
-inline constexpr int32_t SW_SHOW_NORMAL = 1;
+// The show command for ShellExec that opens a normal window.
+inline constexpr int32_t kSwShowNormal = 1;
 
 // Values above this returned by ShellExec mean success; smaller ones are the shell's error codes.
 inline constexpr int32_t kShellExecSuccessAbove = 32;
-inline constexpr int32_t SE_ERR_FILE_NOT_FOUND = 2;
-inline constexpr int32_t SE_ERR_PATH_NOT_FOUND = 3;
-inline constexpr int32_t SE_ERR_ACCESS_DENIED = 5;
-inline constexpr int32_t SE_ERR_NO_ASSOCIATION = 31;
+inline constexpr int32_t kSeErrFileNotFound = 2;
+inline constexpr int32_t kSeErrPathNotFound = 3;
+inline constexpr int32_t kSeErrAccessDenied = 5;
+inline constexpr int32_t kSeErrNoAssociation = 31;
 inline constexpr int32_t kShellExecOk = 42;
 
 class Platform {

@@ -31,6 +31,10 @@ std::string Concat(std::string_view a, std::string_view b, std::string_view c) {
     return text;
 }
 
+bool HasLineBreak(std::string_view text) {
+    return text.find_first_of(kLineBreaks) != std::string_view::npos;
+}
+
 }  // namespace
 
 IniDocument::Line IniDocument::ParseLine(std::string_view text, Eol eol) {
@@ -143,6 +147,15 @@ void IniDocument::AppendSection(std::string_view section, std::string_view key, 
 }
 
 bool IniDocument::SetValue(std::string_view section, std::string_view key, std::string_view value) {
+    bool changed = Apply(section, key, value);
+    // A line break inside a written name or value makes more lines of the file than the edit made; parse
+    // anew so that the copy reads exactly as the file will.
+    if (changed && (HasLineBreak(section) || HasLineBreak(key) || HasLineBreak(value)))
+        *this = Parse(Serialize());
+    return changed;
+}
+
+bool IniDocument::Apply(std::string_view section, std::string_view key, std::string_view value) {
     Section* found = Find(section);
     if (found == nullptr) {
         AppendSection(section, key, value);

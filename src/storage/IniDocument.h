@@ -54,6 +54,7 @@ private:
     static std::vector<Line>::const_iterator FindKey(const Section& section, std::string_view key);
     void EnsureLastLineEnds();
     void AppendSection(std::string_view section, std::string_view key, std::string_view value);
+    bool Apply(std::string_view section, std::string_view key, std::string_view value);
 
     std::vector<Section> m_sections{Section{}};
     std::unordered_map<std::string, std::size_t> m_firstSection;  // lower-case name -> index

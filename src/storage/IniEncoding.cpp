@@ -101,14 +101,14 @@ DecodedIni DecodeIni(std::string_view bytes) {
     return {std::string(bytes), IniEncoding::Narrow};
 }
 
-std::string EncodeIni(std::string_view text, IniEncoding encoding) {
+std::string EncodeIni(std::string text, IniEncoding encoding) {
     switch (encoding) {
         case IniEncoding::Utf16Le:
             return std::string(kUtf16LeBom) + Utf8ToUtf16Le(text);
         case IniEncoding::Utf8Bom:
-            return std::string(kUtf8Bom) + std::string(text);
+            return text.insert(0, kUtf8Bom);
         case IniEncoding::Narrow:
             break;
     }
-    return std::string(text);
+    return text;
 }

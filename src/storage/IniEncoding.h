@@ -20,4 +20,4 @@ struct DecodedIni {
 DecodedIni DecodeIni(std::string_view bytes);
 
 // The bytes of `text` in `encoding`, with its byte-order mark.
-std::string EncodeIni(std::string_view text, IniEncoding encoding);
+std::string EncodeIni(std::string text, IniEncoding encoding);

@@ -58,7 +58,7 @@ TEST_F(ApplicationTest, ShowFaqOpensAnExistingFile) {
     g_cApp->ShowFAQ(7, "DE");
     ASSERT_EQ(platform.calls.size(), 1u);
     EXPECT_EQ(platform.calls[0],
-              (ShellCall{7, "open", dir.File("doc/FAQ_DE.txt"), "", dir.File("doc/"), SW_SHOW_NORMAL}));
+              (ShellCall{7, "open", dir.File("doc/FAQ_DE.txt"), "", dir.File("doc/"), kSwShowNormal}));
     EXPECT_TRUE(ui.messages.empty());
 }
 
@@ -76,9 +76,9 @@ TEST_F(ApplicationTest, WebPageAndMailGoToTheShell) {
     g_cApp->ContactAuthor(4);
     ASSERT_EQ(platform.calls.size(), 2u);
     EXPECT_EQ(platform.calls[0], (ShellCall{3, "open", std::string("https://") + Version::kWebHost + "/", "",
-                                            "", SW_SHOW_NORMAL}));
-    EXPECT_EQ(platform.calls[1], (ShellCall{4, "open", std::string("mailto:") + Version::kContactEmail, "",
-                                            "", SW_SHOW_NORMAL}));
+                                            "", kSwShowNormal}));
+    EXPECT_EQ(platform.calls[1],
+              (ShellCall{4, "open", std::string("mailto:") + Version::kContactEmail, "", "", kSwShowNormal}));
 }
 
 }  // namespace

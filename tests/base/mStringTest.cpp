@@ -65,19 +65,4 @@ INSTANTIATE_TEST_SUITE_P(
         IntCase{"1e3", mError::kTypeMismatch, true}, IntCase{"-", mError::kTypeMismatch, true},
         IntCase{".", mError::kTypeMismatch, true}, IntCase{"\t5", mError::kTypeMismatch, true}));
 
-TEST(mString, TrimTouchesOnlySpaces) {
-    EXPECT_EQ(mString::Trim("  a b \t "), "a b \t");
-    EXPECT_EQ(mString::TrimRight("  a  "), "  a");
-    EXPECT_EQ(mString::TrimLeft("  a  "), "a  ");
-    EXPECT_EQ(mString::Trim("   "), "");
-}
-
-TEST(mString, CaseAndSplitting) {
-    EXPECT_TRUE(mString::StartsWithNoCase("Profile_Race", "PROFILE_"));
-    EXPECT_FALSE(mString::StartsWithNoCase("prof", "profile_"));
-    EXPECT_TRUE(mString::EqualsNoCase("profile_A", "PROFILE_a"));
-    EXPECT_EQ(mString::Split("a;;b", ';'), (std::vector<std::string>{"a", "", "b"}));
-    EXPECT_EQ(mString::StripAtNul(std::string("ab\0c", 4)), "ab");
-}
-
 }  // namespace

