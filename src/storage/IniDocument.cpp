@@ -89,18 +89,27 @@ void IniDocument::AddLine(Line line) {
 }
 
 std::string IniDocument::Serialize() const {
+    std::string text;
+    SerializeInto(text);
+    return text;
+}
+
+void IniDocument::SerializeInto(std::string& text) const {
     std::size_t size = 0;
     for (const Section& section : m_sections) {
         for (const Line& line : section.lines)
-            size += line.text.size() + 2;
+            size += line.text.size() + kEolText[static_cast<int>(line.eol)].size();
     }
-    std::string text;
-    text.reserve(size);
+    // Sized once and filled by copying: this runs for every committed update of a large file.
+    text.resize(size);
+    char* out = text.data();
     for (const Section& section : m_sections) {
-        for (const Line& line : section.lines)
-            text.append(line.text).append(kEolText[static_cast<int>(line.eol)]);
+        for (const Line& line : section.lines) {
+            std::string_view eol = kEolText[static_cast<int>(line.eol)];
+            out = std::copy(line.text.begin(), line.text.end(), out);
+            out = std::copy(eol.begin(), eol.end(), out);
+        }
     }
-    return text;
 }
 
 IniDocument::Section* IniDocument::Find(std::string_view section) {

@@ -15,6 +15,8 @@ public:
     static IniDocument Parse(std::string_view text);
 
     std::string Serialize() const;
+    // Serialises into `text`, reusing its memory.
+    void SerializeInto(std::string& text) const;
 
     // `section` and `key` are compared without regard to case, exactly as given otherwise (the caller
     // removes the spaces around them). The value comes without the blanks and one pair of quotes around it.

@@ -1,5 +1,7 @@
 #include "storage/IniStore.h"
 
+#include <utility>
+
 IniStore::Entry* IniStore::Current(const std::string& file) {
     auto found = m_files.find(file);
     if (found != m_files.end() && found->second.updates > 0)
@@ -56,7 +58,10 @@ void IniStore::Commit(const std::string& file, Entry& entry) noexcept {
     std::optional<platform::FileStamp> stamp;
     try {
         if (platform::CanReplaceFile(file)) {
-            stamp = platform::ReplaceFile(file, EncodeIni(entry.document.Serialize(), entry.encoding));
+            entry.document.SerializeInto(m_buffer);
+            if (entry.encoding != IniEncoding::Narrow)
+                m_buffer = EncodeIni(std::move(m_buffer), entry.encoding);
+            stamp = platform::ReplaceFile(file, m_buffer);
         }
     } catch (...) {
         // Out of memory while serialising: the file keeps its old content, as with any failed write.

@@ -44,4 +44,5 @@ private:
     void Commit(const std::string& file, Entry& entry) noexcept;
 
     std::unordered_map<std::string, Entry> m_files;
+    std::string m_buffer;  // the bytes of the file being committed, kept to spare an allocation per commit
 };
