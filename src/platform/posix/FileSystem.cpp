@@ -109,9 +109,13 @@ std::optional<FileContent> ReadFile(const std::string& path) {
             ssize_t got = read(fd, content.bytes.data() + done, content.bytes.size() - done);
             if (got < 0 && errno == EINTR)
                 continue;
-            ok = got > 0;
-            done += ok ? static_cast<std::size_t>(got) : 0;
+            ok = got >= 0;
+            if (got <= 0)
+                break;
+            done += static_cast<std::size_t>(got);
         }
+        // A file that shrank while it was read ends where the reading did.
+        content.bytes.resize(done);
     }
     close(fd);
     if (!ok)
