@@ -44,16 +44,6 @@ TEST_F(OptionsTest, OnlyRealChangesCount) {
     EXPECT_TRUE(options.DataChanged());
 }
 
-TEST_F(OptionsTest, EachSetterMarksAChange) {
-    options.LoadData();
-    options.SetShowStartTarvolinDialog(false);
-    EXPECT_TRUE(options.DataChanged());
-    ::Options other;
-    other.SetLanguage("fr");
-    EXPECT_TRUE(other.DataChanged());
-    EXPECT_EQ(other.Language(), "FR");
-}
-
 TEST_F(OptionsTest, SaveWritesTheChangedValues) {
     options.LoadData();
     options.SetLanguage("de");
