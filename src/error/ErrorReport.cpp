@@ -29,11 +29,6 @@ std::string CurrentDirectory() {
     return std::filesystem::current_path(ignored).string();
 }
 
-std::string ProgramVersion() {
-    return std::to_string(Version::kMajor) + "." + std::to_string(Version::kMinor) + "." +
-           std::to_string(Version::kRevision);
-}
-
 }  // namespace
 
 int32_t PlainErrorNumber(int32_t number) {
@@ -43,7 +38,7 @@ int32_t PlainErrorNumber(int32_t number) {
 ErrorReport ComposeErrorReport(const Failure& failure) {
     Context context = GatherContext();
     std::string text;
-    text += "Pavonel-Version: " + ProgramVersion() + kCrLf + kCrLf;
+    text += "Pavonel-Version: " + std::string(Version::kText) + kCrLf + kCrLf;
     text += "Description:" + std::string(kCrLf) + failure.Description() + kCrLf + kCrLf;
     text += "Err.-Number: " + std::to_string(failure.Number()) + " (" +
             std::to_string(PlainErrorNumber(failure.Number())) + ")" + kCrLf + kCrLf;

@@ -4,7 +4,6 @@
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
-#include "base/mString.h"
 #include "error/mError.h"
 #include "storage/mIni.h"
 
@@ -57,10 +56,6 @@ void cIni_Base::WriteIntegerToIni(std::string_view key, int16_t value) const try
     mIni::WriteToIni(Arg(IniPath()), m_section, key, std::to_string(value));
 } catch (...) {
     mError::PassOn(Procedure("WriteIntegerToIni"));
-}
-
-int16_t cIni_Base::ToInteger(const std::string& text) {
-    return mString::ToInt16(text);
 }
 
 iniFile::Update cIni_Base::BeginSave() const {

@@ -26,9 +26,6 @@ protected:
     std::string ReadIntegerFromIni(std::string_view key, int16_t defaultValue) const;
     void WriteIntegerToIni(std::string_view key, int16_t value) const;
 
-    // Converts a key's text to a 16-bit integer (failures 13 and 6 for letters and overflow).
-    static int16_t ToInteger(const std::string& text);
-
     void SetSection(std::string section) { m_section = std::move(section); }
     const std::string& Section() const { return m_section; }
 

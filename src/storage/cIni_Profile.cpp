@@ -1,5 +1,6 @@
 #include "storage/cIni_Profile.h"
 
+#include "base/mString.h"
 #include "error/mError.h"
 
 // The key names are the settings file's own, "GRAPICPAK" included.
@@ -35,7 +36,7 @@ void cIni_Profile::Write_UsePreDefinedResolution(bool value) const {
 
 int16_t cIni_Profile::Read_PreDefinedResolution() const {
     return mError::WithTrail("cIni_Profile.Read_PreDefinedResolution",
-                             [&] { return ToInteger(ReadIntegerFromIni("RESOLUTION", 1)); });
+                             [&] { return mString::ToInt16(ReadIntegerFromIni("RESOLUTION", 1)); });
 }
 
 void cIni_Profile::Write_PreDefinedResolution(int16_t value) const {
@@ -45,7 +46,7 @@ void cIni_Profile::Write_PreDefinedResolution(int16_t value) const {
 
 int16_t cIni_Profile::Read_ResolutionWidth() const {
     return mError::WithTrail("cIni_Profile.Read_ResolutionWidth",
-                             [&] { return ToInteger(ReadIntegerFromIni("RES_WIDTH", 640)); });
+                             [&] { return mString::ToInt16(ReadIntegerFromIni("RES_WIDTH", 640)); });
 }
 
 void cIni_Profile::Write_ResolutionWidth(int16_t value) const {
@@ -54,7 +55,7 @@ void cIni_Profile::Write_ResolutionWidth(int16_t value) const {
 
 int16_t cIni_Profile::Read_ResolutionHeight() const {
     return mError::WithTrail("cIni_Profile.Read_ResolutionHeight",
-                             [&] { return ToInteger(ReadIntegerFromIni("RES_HEIGHT", 480)); });
+                             [&] { return mString::ToInt16(ReadIntegerFromIni("RES_HEIGHT", 480)); });
 }
 
 void cIni_Profile::Write_ResolutionHeight(int16_t value) const {
@@ -97,7 +98,7 @@ void cIni_Profile::Write_ProfileDescription(const std::string& value) const {
 
 int16_t cIni_Profile::Read_Refresh() const {
     return mError::WithTrail("cIni_Profile.Read_Refresh",
-                             [&] { return ToInteger(ReadIntegerFromIni("REFRESH", 1)); });
+                             [&] { return mString::ToInt16(ReadIntegerFromIni("REFRESH", 1)); });
 }
 
 void cIni_Profile::Write_Refresh(int16_t value) const {

@@ -45,10 +45,5 @@ std::string cTranslate::TranslateEx(const std::string& section, const std::strin
 }
 
 std::string cTranslate::TranslateBool_YesNo(bool value) const {
-    try {
-        return TranslateEx("GLOBAL", value ? "BTN_Yes" : "BTN_No");
-    } catch (...) {
-        mError::ShowError("cTranslate.TranslateBool_YesNo");
-    }
-    return {};
+    return TranslateEx("GLOBAL", value ? "BTN_Yes" : "BTN_No");
 }

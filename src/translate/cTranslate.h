@@ -15,7 +15,7 @@ public:
     std::string TranslateEx(const std::string& section, const std::string& key, const std::string& p1 = "",
                             const std::string& p2 = "") const;
 
-    // The "yes" or "no" text of the chosen language.
+    // The "yes" or "no" text of the chosen language (TranslateEx reports any failure).
     std::string TranslateBool_YesNo(bool value) const;
 
 private:

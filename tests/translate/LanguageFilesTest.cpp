@@ -1,6 +1,7 @@
 // The language files the program ships: complete, alike, and within what the reader can return.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <map>
 #include <regex>
@@ -74,7 +75,10 @@ TEST(LanguageFiles, EveryTextIsReadableWhole) {
                 << file << ": " << key;
         }
         std::string content = Content(file);
-        EXPECT_EQ(content.find('\n') - 1, content.find("\r\n")) << file << " uses CRLF line breaks";
+        std::size_t lineFeeds = std::count(content.begin(), content.end(), '\n');
+        std::regex crLf("\r\n");
+        std::size_t crLfs = std::distance(std::sregex_iterator(content.begin(), content.end(), crLf), {});
+        EXPECT_EQ(crLfs, lineFeeds) << file << " uses CRLF line breaks";
     }
 }
 
