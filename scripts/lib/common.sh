@@ -33,5 +33,5 @@ pavonel_build() {
     [ "${PIPESTATUS[0]}" -eq 0 ]
 }
 
-PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev)
+PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev fonts-dejavu-core)
 PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format)

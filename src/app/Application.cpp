@@ -11,10 +11,65 @@
 
 Application::Application() {
     try {
+        m_profiles = std::make_unique<::Profiles>();
+        m_options = std::make_unique<::Options>();
+        m_settings = std::make_unique<cIni_Application>();
         ComputeDirectories();
+        m_activeProfileChanged = false;
     } catch (...) {
         mError::ShowError("Application.Class_Initialize");
     }
+}
+
+Application::~Application() {
+    try {
+        m_options.reset();
+        m_activeProfile = nullptr;
+        m_profiles.reset();
+        m_settings.reset();
+    } catch (...) {
+        mError::ShowError("Application.Class_Terminate");
+    }
+}
+
+void Application::SetActiveProfile(Profile* profile) {
+    if (profile == m_activeProfile)
+        return;
+    m_activeProfile = profile;
+    m_activeProfileChanged = true;
+}
+
+bool Application::LoadData() try {
+    bool result = true;
+    m_options->LoadData();
+    m_profiles->LoadData();
+    if (m_profiles->DoesProfileExist(m_profiles->ReadFromIni_ActiveProfileName())) {
+        SetActiveProfile(&m_profiles->Item(m_profiles->ReadFromIni_ActiveProfileName()));
+    } else if (Profile* chosen = m_profiles->ShowLoadProfileDialog()) {
+        SetActiveProfile(chosen);
+    } else {
+        result = false;
+        Ui().MsgBox("You have to load a profile, if you want to use this application.", vbOKOnly);
+    }
+    return result;
+} catch (...) {
+    mError::PassOn("Application.LoadData");
+}
+
+bool Application::DataChanged() const try {
+    return m_profiles->DataChanged() || m_activeProfileChanged;
+} catch (...) {
+    mError::PassOn("Application.DataChanged");
+}
+
+void Application::SaveData() try { Ui().ShowSaveDialog(); } catch (...) {
+    mError::PassOn("Application.SaveData");
+}
+
+void Application::SaveDataEx(const std::string& strProfiles) try {
+    m_profiles->SaveData(strProfiles);
+} catch (...) {
+    mError::PassOn("Application.SaveDataEx");
 }
 
 void Application::ComputeDirectories() {
@@ -32,10 +87,10 @@ std::string Application::AppVersionText() {
 }
 
 void Application::SaveAppSettings() try {
-    iniFile::Update save = m_settings.BeginSave();
-    m_settings.Write_FileVersion(kFileVersion);
-    m_settings.Write_AppVersion(AppVersionText());
-    m_options.SaveData();
+    iniFile::Update save = m_settings->BeginSave();
+    m_settings->Write_FileVersion(kFileVersion);
+    m_settings->Write_AppVersion(AppVersionText());
+    m_options->SaveData();
 } catch (...) {
     mError::PassOn("Application.SaveAppSettings");
 }

@@ -1,11 +1,14 @@
-// The program's central object: it owns the options and the settings companion, knows the program's
-// folders and its settings file, names the language and FAQ files, and opens the maker's pages.
+// The program's central object: it owns the options, the profiles with the active one and the settings
+// companion, knows the program's folders and its settings file, names the language and FAQ files, and
+// opens the maker's pages.
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "app/Options.h"
+#include "profiles/Profiles.h"
 #include "storage/cIni_Application.h"
 
 class Application {
@@ -14,6 +17,14 @@ public:
     static constexpr const char* kFileVersion = "1.1";
 
     Application();
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // The profile shown and started: a member of Profiles(), or nullptr before LoadData.
+    Profile* ActiveProfile() const { return m_activeProfile; }
+    // Making a different profile active counts as a change of data.
+    void SetActiveProfile(Profile* profile);
 
     const std::string& IniPath() const { return m_iniPath; }
     const std::string& GetWorkDirectory() const { return m_workDirectory; }
@@ -21,8 +32,22 @@ public:
     const std::string& GetDocDirectory() const { return m_docDirectory; }
     const std::string& GetToolsDirectory() const { return m_toolsDirectory; }
 
-    ::Options& Options() { return m_options; }
-    const ::Options& Options() const { return m_options; }
+    ::Options& Options() { return *m_options; }
+    const ::Options& Options() const { return *m_options; }
+    ::Profiles& Profiles() { return *m_profiles; }
+    const ::Profiles& Profiles() const { return *m_profiles; }
+
+    // Loads the options and all profiles and makes the remembered profile active, or the one the user
+    // chooses when it is gone. False, after telling the user, when no profile could be made active.
+    bool LoadData();
+
+    // True when a profile has changed or a different profile was made active (options do not count).
+    bool DataChanged() const;
+
+    // Lets the user choose which changed profiles to save.
+    void SaveData();
+    // Saves the profiles named in `strProfiles` (names joined by ";").
+    void SaveDataEx(const std::string& strProfiles);
 
     // Writes the file and program versions and the options, as one update of the settings file.
     void SaveAppSettings();
@@ -49,11 +74,14 @@ public:
 private:
     void ComputeDirectories();
 
-    ::Options m_options;
-    cIni_Application m_settings;
+    std::unique_ptr<::Options> m_options;
+    std::unique_ptr<::Profiles> m_profiles;
+    Profile* m_activeProfile = nullptr;
+    std::unique_ptr<cIni_Application> m_settings;
     std::string m_iniPath;
     std::string m_languageDirectory;
     std::string m_workDirectory;
     std::string m_docDirectory;
     std::string m_toolsDirectory;
+    bool m_activeProfileChanged = false;
 };

@@ -12,7 +12,7 @@ int ConsoleUserInterface::DefaultButton(int style) {
         {vbYes, vbNo, vbNo},
         {vbRetry, vbCancel, vbCancel},
     }};
-    int set = style & 7;
+    int set = style & 0xF;
     int position = (style >> 8) & 3;
     if (set >= static_cast<int>(kButtons.size()))
         set = 0;  // a style naming no button set shows OK
@@ -26,4 +26,36 @@ int ConsoleUserInterface::MsgBox(const std::string& prompt, int style) {
 
 void ConsoleUserInterface::ShowErrorReport(const ErrorReport& report) {
     std::cerr << report.text << '\n';
+}
+
+OpenFileAnswer ConsoleUserInterface::ChooseFileToOpen(const OpenFileOptions& options) {
+    std::cerr << "Pavonel: no window to choose a file in: " << options.title << '\n';
+    return {};
+}
+
+std::string ConsoleUserInterface::ChooseFolder(int64_t /*owner*/, const std::string& title,
+                                               const std::string& /*rootFolder*/) {
+    std::cerr << "Pavonel: no window to choose a folder in: " << title << '\n';
+    return {};
+}
+
+// The text goes to the stream instead, so that it is not lost.
+void ConsoleUserInterface::SetClipboardText(const std::string& text) {
+    std::cerr << text << '\n';
+}
+
+bool ConsoleUserInterface::ShowEditProfileDialog(int32_t /*editMode*/, Profile& /*profile*/) {
+    return false;
+}
+
+Profile* ConsoleUserInterface::ShowLoadProfileDialog() {
+    return nullptr;
+}
+
+void ConsoleUserInterface::ShowSaveDialog() {
+    std::cerr << "Pavonel: no window to choose the profiles to save in; nothing was saved.\n";
+}
+
+bool ConsoleUserInterface::ShowStartTarvolinDialog(Profile& /*profile*/) {
+    return true;
 }

@@ -4,6 +4,9 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+class Profile;
 
 // Message-box styles: one button set, plus an icon, plus a default button.
 enum MsgBoxStyle : int {
@@ -40,6 +43,30 @@ struct ErrorReport {
     std::string text;  // the whole report a user sends to the maker
 };
 
+// The file-open chooser's options (the program's common dialog, see mCommonDialog).
+struct OpenFileOptions {
+    std::string fileName;  // the proposed name; the chooser starts in its folder when it has one
+    bool fileMustExist = false;
+    bool multiSelect = false;
+    bool readOnlyChecked = false;
+    bool hideReadOnly = false;
+    std::string filter;       // description and pattern pairs separated by "|": "Programs (*.exe)|*.exe"
+    int32_t filterIndex = 1;  // the pair shown first, counted from 1
+    std::string initialDirectory;
+    std::string title;
+    std::string defaultExtension;  // ".exe": added to a typed name that has no extension
+    int64_t owner = -1;            // -1: no owner window
+};
+
+// What the file-open chooser ended with.
+struct OpenFileAnswer {
+    enum class Outcome { kChosen, kCancelled, kFailed };
+    Outcome outcome = Outcome::kCancelled;
+    std::vector<std::string> files;  // full paths; one unless several were chosen with multiSelect
+    bool readOnlyChecked = false;
+    int32_t errorCode = 0;  // the chooser's own error number when it failed
+};
+
 class UserInterface {
 public:
     virtual ~UserInterface() = default;
@@ -49,6 +76,32 @@ public:
 
     // Shows the error report window modally.
     virtual void ShowErrorReport(const ErrorReport& report) = 0;
+
+    // The file-open chooser, modal.
+    virtual OpenFileAnswer ChooseFileToOpen(const OpenFileOptions& options) = 0;
+
+    // The folder chooser, modal, starting in `rootFolder` (the desktop when empty). Returns the chosen
+    // folder, or "" when nothing was chosen.
+    virtual std::string ChooseFolder(int64_t owner, const std::string& title,
+                                     const std::string& rootFolder) = 0;
+
+    // Replaces the clipboard's content with `text`.
+    virtual void SetClipboardText(const std::string& text) = 0;
+
+    // The profile edit dialog (frmEditProfile) in `editMode` (1: a new profile); true when it ended with OK,
+    // having set the profile's name and description.
+    virtual bool ShowEditProfileDialog(int32_t editMode, Profile& profile) = 0;
+
+    // The profile chooser (frmLoadProfile); the chosen member of the application's collection, or nullptr
+    // when it was cancelled.
+    virtual Profile* ShowLoadProfileDialog() = 0;
+
+    // The save dialog (frmSave), which saves the changed profiles the user keeps selected.
+    virtual void ShowSaveDialog() = 0;
+
+    // The start confirmation (frmStartingTarvolin) for `profile`; true unless it was cancelled. The window
+    // itself stores the "don't show again" choice in the options.
+    virtual bool ShowStartTarvolinDialog(Profile& profile) = 0;
 };
 
 // The installed user interface (the console fallback when none is installed).

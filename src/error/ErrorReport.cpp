@@ -6,6 +6,7 @@
 #include "Version.h"
 #include "app/Application.h"
 #include "app/PublicObjects.h"
+#include "app/mMain.h"
 #include "platform/Platform.h"
 
 namespace {
@@ -21,7 +22,12 @@ struct Context {
 Context GatherContext() {
     if (!g_cApp)
         return {"(g_cApp not defined)", "(g_cApp not defined)", "(g_cApp not defined)"};
-    return {g_cApp->IniPath(), "(g_cApp.ActiveProfile not defined)", "(g_cApp.ActiveProfile not defined)"};
+    const Profile* active = g_cApp->ActiveProfile();
+    if (active == nullptr)
+        return {g_cApp->IniPath(), "(g_cApp.ActiveProfile not defined)",
+                "(g_cApp.ActiveProfile not defined)"};
+    const std::string& gamePath = active->TarvolinPath();
+    return {g_cApp->IniPath(), mMain::GetTarvolinFile_VersionInfo(gamePath), gamePath};
 }
 
 std::string CurrentDirectory() {

@@ -25,6 +25,8 @@ Failure FromFilesystemError(const std::filesystem::filesystem_error& error) {
 
 std::string RuntimeDescription(int32_t number) {
     switch (number) {
+        case kInvalidProcedureCall:
+            return "Invalid procedure call or argument";
         case kOverflow:
             return "Overflow";
         case kOutOfMemory:
@@ -35,6 +37,10 @@ std::string RuntimeDescription(int32_t number) {
             return "File not found";
         case kPathFileAccessError:
             return "Path/File access error";
+        case kSubscriptOutOfRange:
+            return "Subscript out of range";
+        case kDuplicateKey:
+            return "This key is already associated with an element of this collection";
         default:
             return "Internal error";
     }

@@ -13,17 +13,21 @@
 
 namespace mError {
 
-// Numbers of the run-time failures that standard exceptions are converted into.
+// Numbers of the run-time failures that standard exceptions are converted into, and of the collection's.
+inline constexpr int32_t kInvalidProcedureCall = 5;
 inline constexpr int32_t kOverflow = 6;
 inline constexpr int32_t kOutOfMemory = 7;
 inline constexpr int32_t kTypeMismatch = 13;
 inline constexpr int32_t kInternalError = 51;
 inline constexpr int32_t kFileNotFound = 53;
 inline constexpr int32_t kPathFileAccessError = 75;
+inline constexpr int32_t kSubscriptOutOfRange = 9;
+inline constexpr int32_t kDuplicateKey = 457;
 
 // Numbers the program raises on purpose (combined with kObjectError by RaiseError).
 inline constexpr int32_t kInvalidValueWrite = 1;
 inline constexpr int32_t kInvalidValueRead = 2;
+inline constexpr int32_t kInvalidResolutionWarning = 20002;
 inline constexpr int32_t kLanguageAbbrev = 20007;
 
 // The range of program-defined object errors.

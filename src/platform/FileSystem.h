@@ -1,5 +1,5 @@
-// The file operations the settings-file engine needs beyond the standard library: a file's identity for
-// the change check, and durable, atomic replacement of a file.
+// The file operations the program needs beyond the standard library: a file's identity for the settings
+// engine's change check, durable and atomic replacement of a file, and a file's times and attributes.
 #pragma once
 
 #include <cstdint>
@@ -25,6 +25,22 @@ struct FileContent {
     // file systems store that time coarsely (up to 2 s), so such a copy must be read again next time.
     bool settled = false;
 };
+
+// What the file information shows of a file or folder. Times count nanoseconds since 1970-01-01 00:00 UTC.
+struct FileDetails {
+    uint64_t size = 0;  // 0 for a folder
+    int64_t lastWrite = 0;
+    int64_t lastAccess = 0;
+    std::optional<int64_t> creation;  // nothing where the file system does not record it
+    bool directory = false;
+    bool readOnly = false;  // nobody may write it: no write permission bit on POSIX, the attribute on Windows
+    bool hidden = false;    // a name beginning with "." on POSIX, the attribute on Windows
+    bool symbolicLink = false;  // the path itself is a link; the other fields describe its target
+};
+
+// The details of an existing entry, following a symbolic link (a dangling link describes itself); nothing
+// for a missing path or one that cannot be examined.
+std::optional<FileDetails> DetailsOf(const std::string& path);
 
 // The stamp of a regular file; nothing for a missing file, a folder or anything else.
 std::optional<FileStamp> StampOf(const std::string& path);

@@ -1,5 +1,5 @@
 // The only way core reaches the operating system for things a test must be able to replace: where the
-// program lives and what the shell is asked to open. Each OS has its implementation in its own folder;
+// program lives, what the shell is asked to open, the special folders and the running marker. Each OS has its implementation in its own folder;
 // tests install a recording fake.
 #pragma once
 
@@ -17,6 +17,14 @@ inline constexpr int32_t kSeErrPathNotFound = 3;
 inline constexpr int32_t kSeErrAccessDenied = 5;
 inline constexpr int32_t kSeErrNoAssociation = 31;
 inline constexpr int32_t kShellExecOk = 42;
+// The shell's answer for a file that is not a program it can start (ERROR_BAD_FORMAT).
+inline constexpr int32_t kSeErrBadFormat = 11;
+
+// Special folders, by the numbers the Windows shell gives them.
+inline constexpr int32_t kCsidlDesktop = 0;
+inline constexpr int32_t kCsidlStartMenu = 11;
+inline constexpr int32_t kCsidlDrives = 17;
+inline constexpr int32_t kCsidlAppData = 26;
 
 class Platform {
 public:
@@ -32,6 +40,17 @@ public:
     virtual int32_t ShellExec(int64_t owner, const std::string& verb, const std::string& file,
                               const std::string& parameters, const std::string& directory,
                               int32_t showCommand) = 0;
+
+    // The file-system path of special folder `csidl` (kCsidl...), or "" when there is none.
+    virtual std::string SpecialFolder(int32_t csidl) = 0;
+
+    // The folder that holds the system's own programs (the Windows directory).
+    virtual std::string WindowsDirectory() = 0;
+
+    // Creates the named marker that other programs (an installer) test to see that the launcher runs. It
+    // lives until the process ends; a second copy of the program creates it again without harm. Returns
+    // false when it could not be created.
+    virtual bool CreateNamedMutex(const std::string& name) = 0;
 };
 
 // The installed platform (the native one when none is installed).

@@ -14,6 +14,10 @@ AppFixture::AppFixture() : platform(dir.Path().string()) {
     InstallUserInterface(&ui);
     std::filesystem::create_directory(dir.Path() / "config");
     std::filesystem::create_directory(dir.Path() / "doc");
+    for (const char* language : {"LNG_EN.ini", "LNG_DE.ini"}) {
+        std::filesystem::copy_file(std::filesystem::path(PAVONEL_SOURCE_DIR) / "config" / language,
+                                   dir.Path() / "config" / language);
+    }
     g_cApp = std::make_unique<Application>();
     g_cTranslate = std::make_unique<cTranslate>();
 }

@@ -1,5 +1,6 @@
-// The test fixture for everything above the storage engine: a fresh program folder, recording fakes for
-// the user interface and the platform, and the two program-wide objects created on it.
+// The test fixture for everything above the storage engine: a fresh program folder with the shipped
+// language files, recording fakes for the user interface and the platform, and the two program-wide
+// objects created on it.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -6,3 +6,13 @@ int32_t FakePlatform::ShellExec(int64_t owner, const std::string& verb, const st
     calls.push_back({owner, verb, file, parameters, directory, showCommand});
     return shellResult;
 }
+
+std::string FakePlatform::SpecialFolder(int32_t csidl) {
+    const auto found = specialFolders.find(csidl);
+    return found != specialFolders.end() ? found->second : std::string();
+}
+
+bool FakePlatform::CreateNamedMutex(const std::string& name) {
+    mutexes.push_back(name);
+    return true;
+}

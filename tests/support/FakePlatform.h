@@ -1,6 +1,7 @@
 // A Platform that lives in a test's own program folder and records what the shell was asked to do.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -25,9 +26,16 @@ public:
     int32_t ShellExec(int64_t owner, const std::string& verb, const std::string& file,
                       const std::string& parameters, const std::string& directory,
                       int32_t showCommand) override;
+    std::string SpecialFolder(int32_t csidl) override;
+    std::string WindowsDirectory() override { return windowsDirectory; }
+    bool CreateNamedMutex(const std::string& name) override;
 
     std::vector<ShellCall> calls;
     int32_t shellResult = kShellExecOk;
+    // The special folders by number; a number not listed has no folder.
+    std::map<int32_t, std::string> specialFolders;
+    std::string windowsDirectory = "/usr/bin";
+    std::vector<std::string> mutexes;
 
 private:
     std::string m_programDirectory;

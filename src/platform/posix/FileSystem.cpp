@@ -8,6 +8,7 @@
 #include <climits>
 #include <cstdlib>
 #include <ctime>
+#include <string_view>
 
 namespace platform {
 namespace {
@@ -84,7 +85,49 @@ std::optional<FileStamp> WriteAndRename(const std::string& target, const std::st
     return std::nullopt;
 }
 
+int64_t Nanoseconds(const struct timespec& time) {
+    return static_cast<int64_t>(time.tv_sec) * 1000000000 + time.tv_nsec;
+}
+
+// The birth time where the kernel and the file system record one; statx is the only call that tells it.
+std::optional<int64_t> CreationTime(const std::string& path, bool followLink) {
+    struct statx info {};
+    int flags = followLink ? 0 : AT_SYMLINK_NOFOLLOW;
+    if (statx(AT_FDCWD, path.c_str(), flags, STATX_BTIME, &info) != 0 || (info.stx_mask & STATX_BTIME) == 0)
+        return std::nullopt;
+    return static_cast<int64_t>(info.stx_btime.tv_sec) * 1000000000 + info.stx_btime.tv_nsec;
+}
+
+bool HasHiddenName(const std::string& path) {
+    std::string::size_type last = path.find_last_not_of('/');
+    if (last == std::string::npos)
+        return false;
+    std::string::size_type slash = path.find_last_of('/', last);
+    std::string::size_type first = slash == std::string::npos ? 0 : slash + 1;
+    std::string_view name(path.data() + first, last - first + 1);
+    return name.front() == '.' && name != "." && name != "..";
+}
+
 }  // namespace
+
+std::optional<FileDetails> DetailsOf(const std::string& path) {
+    struct stat own {};
+    if (path.empty() || lstat(path.c_str(), &own) != 0)
+        return std::nullopt;
+    FileDetails details;
+    details.symbolicLink = S_ISLNK(own.st_mode);
+    struct stat target {};
+    bool followed = details.symbolicLink && stat(path.c_str(), &target) == 0;
+    const struct stat& info = followed ? target : own;
+    details.directory = S_ISDIR(info.st_mode);
+    details.size = details.directory ? 0 : static_cast<uint64_t>(info.st_size);
+    details.lastWrite = Nanoseconds(info.st_mtim);
+    details.lastAccess = Nanoseconds(info.st_atim);
+    details.creation = CreationTime(path, followed);
+    details.readOnly = (info.st_mode & kAnyWrite) == 0;
+    details.hidden = HasHiddenName(path);
+    return details;
+}
 
 std::optional<FileStamp> StampOf(const std::string& path) {
     struct stat info {};

@@ -1,6 +1,6 @@
 // The platform on Linux: the program directory comes from /proc, and the shell's "open" is carried out
-// with the desktop's default handler (xdg-open) for documents, folders and addresses, and by starting an
-// executable directly as a detached process.
+// with the desktop's default handler (xdg-open) for documents, folders and addresses, by starting a native
+// executable directly as a detached process, and by starting a Windows ".exe" through Wine.
 #pragma once
 
 #include "platform/Platform.h"
@@ -11,8 +11,21 @@ public:
 
     // `owner` and `showCommand` have no counterpart here: a started program has no owner window, and how
     // its first window appears is the window manager's decision. Returns kShellExecOk once the program is
-    // running, else the Windows shell error code that describes why it could not be started.
+    // running, else the Windows shell error code that describes why it could not be started:
+    // kSeErrFileNotFound and kSeErrPathNotFound for a missing file or folder, kSeErrAccessDenied for a
+    // program without execute permission, kSeErrBadFormat for a ".exe" that is no program at all, and
+    // kSeErrNoAssociation when nothing can open the file (no Wine for a Windows program, no handler).
     int32_t ShellExec(int64_t owner, const std::string& verb, const std::string& file,
                       const std::string& parameters, const std::string& directory,
                       int32_t showCommand) override;
+
+    // The freedesktop folders that play the special folders' parts (see XdgFolders.h); the drive list is
+    // the root of the one file-system tree. "" for any other folder number.
+    std::string SpecialFolder(int32_t csidl) override;
+
+    // The system's programs live in /usr/bin, so a program proposed from there exists.
+    std::string WindowsDirectory() override;
+
+    // A lock file held for the process's life (see RunningMarker.h for where it is and how to test it).
+    bool CreateNamedMutex(const std::string& name) override;
 };

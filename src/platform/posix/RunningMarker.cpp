@@ -1,0 +1,71 @@
+#include "platform/posix/RunningMarker.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <thread>
+
+namespace platform {
+
+namespace {
+
+constexpr int kLockAttempts = 20;
+constexpr std::chrono::milliseconds kLockRetryPause{5};
+
+bool IsUsableName(const std::string& name) {
+    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
+           name.find('\0') == std::string::npos;
+}
+
+std::string RuntimeDirectory() {
+    const char* value = std::getenv("XDG_RUNTIME_DIR");
+    struct stat status {};
+    if (value == nullptr || value[0] != '/' || stat(value, &status) != 0 || !S_ISDIR(status.st_mode))
+        return {};
+    return value;
+}
+
+// A tester's exclusive lock lasts only as long as its test, so a few short retries outwait it.
+bool LockShared(int fd) {
+    for (int attempt = 0; attempt < kLockAttempts; ++attempt) {
+        if (flock(fd, LOCK_SH | LOCK_NB) == 0)
+            return true;
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return false;
+        std::this_thread::sleep_for(kLockRetryPause);
+    }
+    return false;
+}
+
+}  // namespace
+
+std::string RunningMarkerPath(const std::string& name) {
+    if (!IsUsableName(name))
+        return {};
+    const std::string runtime = RuntimeDirectory();
+    if (!runtime.empty())
+        return runtime + (runtime.back() == '/' ? "" : "/") + name + ".lock";
+    return "/tmp/" + name + "-" + std::to_string(getuid()) + ".lock";
+}
+
+bool HoldRunningMarker(const std::string& name) {
+    const std::string path = RunningMarkerPath(name);
+    if (path.empty())
+        return false;
+    // Readable by everyone, so a tester running as another user can open it too; O_NOFOLLOW keeps a link
+    // planted in /tmp from redirecting the file.
+    const int fd = open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY, 0644);
+    if (fd < 0)
+        return false;
+    if (LockShared(fd))
+        return true;
+    close(fd);
+    return false;
+}
+
+}  // namespace platform

@@ -1,0 +1,42 @@
+// What the shell is asked to open, seen the way the Windows shell sees it: an address for a handler, a file
+// found beside the working directory, and for a program, what kind of program its first bytes make it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// A web or mail address (a scheme of at least two characters before "://", or "mailto:"); it goes to the
+// desktop's handler untouched. A drive letter ("C://") does not make an address.
+bool IsAddress(std::string_view file);
+
+// The absolute path of `file`, looked for in `directory` first when it is relative, as the Windows shell
+// does; "" when it exists in neither place.
+std::string LocateFile(const std::string& file, const std::string& directory);
+
+// The shell's error code for a file that LocateFile did not find: kSeErrPathNotFound when its folder is
+// missing too, else kSeErrFileNotFound.
+int32_t MissingFileResult(const std::string& file, const std::string& directory);
+
+// An existing folder ("" and a text with a NUL character are none).
+bool IsFolder(const std::string& path);
+
+// A regular file whose name ends in ".exe" in any case: the file names a program whatever its permissions.
+bool HasProgramName(const std::string& path);
+
+// A regular file with an execute permission bit for anybody.
+bool HasExecuteBit(const std::string& path);
+
+enum class ProgramKind {
+    kNative,      // ELF, or a script with a "#!" line
+    kWindows,     // an "MZ" executable, which needs Wine here
+    kUnknown,     // neither: nothing can start it
+    kUnreadable,  // its first bytes cannot be read
+};
+
+// The kind of program in `path`, by its first bytes.
+ProgramKind ProgramKindOf(const std::string& path);
+
+}  // namespace platform

@@ -1,0 +1,214 @@
+#include "profiles/Profiles.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "app/UserInterface.h"
+#include "app/mPath.h"
+#include "base/mString.h"
+#include "error/mError.h"
+#include "platform/FileSystem.h"
+#include "platform/Platform.h"
+#include "storage/IniEncoding.h"
+#include "storage/iniFile.h"
+#include "translate/cTranslate.h"
+
+namespace {
+
+// The section names that make profiles: "[profile_" in any case, brackets included.
+constexpr std::string_view kProfileHeader = "[profile_";
+
+// A profile's name from one line of the settings file, or "" when the line is no profile header. The last
+// character is dropped whatever it is: it is meant to be the closing bracket.
+std::string ProfileNameOf(std::string_view line) {
+    const std::string trimmed = mString::Trim(line);
+    if (trimmed.size() <= 2 || !mString::StartsWithNoCase(trimmed, kProfileHeader))
+        return {};
+    return trimmed.substr(1, trimmed.size() - 2);
+}
+
+// Lines end at a carriage return, a line feed or both, as a text file read line by line has them.
+template <class Visit>
+void ForEachLine(std::string_view text, Visit&& visit) {
+    while (!text.empty()) {
+        const size_t end = text.find_first_of("\r\n");
+        visit(text.substr(0, end));
+        if (end == std::string_view::npos)
+            return;
+        const size_t next =
+            (text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n') ? end + 2 : end + 1;
+        text.remove_prefix(next);
+    }
+}
+
+}  // namespace
+
+Profile& Profiles::Add(const std::string& Key, const std::string& sKey) try {
+    if (!sKey.empty() && Find(sKey) != nullptr)
+        mError::RaiseRuntimeError(mError::kDuplicateKey);
+    auto profile = std::make_unique<Profile>();
+    profile->Key = Key;
+    Profile& added = *profile;
+    Store(sKey, std::move(profile));
+    return added;
+} catch (...) {
+    mError::PassOn("Profiles.Add");
+}
+
+void Profiles::Store(const std::string& key, std::unique_ptr<Profile> profile) {
+    if (!key.empty())
+        m_byKey.emplace(mString::LCase(key), profile.get());
+    m_items.push_back(Entry{key, std::move(profile)});
+}
+
+Profile* Profiles::Find(const std::string& key) const {
+    const auto found = m_byKey.find(mString::LCase(key));
+    return found != m_byKey.end() ? found->second : nullptr;
+}
+
+void Profiles::Erase(std::vector<Entry>::iterator entry) {
+    if (!entry->key.empty())
+        m_byKey.erase(mString::LCase(entry->key));
+    m_items.erase(entry);
+}
+
+Profile& Profiles::Item(int32_t index) try {
+    if (index < 1 || index > Count())
+        mError::RaiseRuntimeError(mError::kSubscriptOutOfRange);
+    return *m_items[static_cast<size_t>(index - 1)].profile;
+} catch (...) {
+    mError::PassOn("Profiles.Item");
+}
+
+Profile& Profiles::Item(const std::string& name) try {
+    Profile* found = Find(name);
+    if (found == nullptr)
+        mError::RaiseRuntimeError(mError::kInvalidProcedureCall);
+    return *found;
+} catch (...) {
+    mError::PassOn("Profiles.Item");
+}
+
+void Profiles::Remove(int32_t index) try {
+    Item(index);
+    Erase(m_items.begin() + (index - 1));
+} catch (...) {
+    mError::PassOn("Profiles.Remove");
+}
+
+void Profiles::Remove(const std::string& name) try {
+    const Profile& profile = Item(name);
+    Erase(std::find_if(m_items.begin(), m_items.end(),
+                       [&](const Entry& entry) { return entry.profile.get() == &profile; }));
+} catch (...) {
+    mError::PassOn("Profiles.Remove");
+}
+
+Profiles::Iterator Profiles::begin() const {
+    return Iterator(m_items.begin());
+}
+
+Profiles::Iterator Profiles::end() const {
+    return Iterator(m_items.end());
+}
+
+Profile* Profiles::ShowAddNewDialog() try {
+    auto profile = std::make_unique<Profile>();
+    if (!Ui().ShowEditProfileDialog(1, *profile))
+        return nullptr;
+    profile->Key = profile->ProfileName();
+    profile->SetIsNewProfile(true);
+    profile->SetDataChanged(true);
+    if (DoesProfileExist(profile->ProfileName())) {
+        Ui().MsgBox(
+            Translator().TranslateEx("ERROR_MESSAGES", "ERR_ProfileNameNotUnique", profile->ProfileCaption()),
+            vbOKOnly);
+        return nullptr;
+    }
+    Profile& added = *profile;
+    Store(added.ProfileName(), std::move(profile));
+    g_cApp->SetActiveProfile(&added);
+    return &added;
+} catch (...) {
+    mError::PassOn("Profiles.ShowAddNewDialog");
+}
+
+void Profiles::LoadData() try {
+    const std::string path = mPath::AddOrRemoveBackslash(Os().ProgramDirectory(), true) + "Pavonel.ini";
+    if (mPath::FileExists(path)) {
+        // A file that cannot be read is treated like a missing one: its profiles cannot be shown anyway.
+        if (std::optional<platform::FileContent> content = platform::ReadFile(path)) {
+            const DecodedIni decoded = DecodeIni(content->bytes);
+            ForEachLine(decoded.text, [this](std::string_view line) {
+                const std::string name = ProfileNameOf(line);
+                if (!name.empty())
+                    LoadSection(name);
+            });
+        }
+    }
+    if (Count() == 0)
+        CreateStandardProfile();
+} catch (...) {
+    mError::PassOn("Profiles.LoadData");
+}
+
+void Profiles::LoadSection(const std::string& name) {
+    Profile& profile = Add(name, name);
+    profile.SetProfileName(name);
+    profile.LoadData();
+}
+
+Profile* Profiles::ShowLoadProfileDialog() try { return Ui().ShowLoadProfileDialog(); } catch (...) {
+    mError::PassOn("Profiles.ShowLoadProfileDialog");
+}
+
+bool Profiles::DoesProfileExist(const std::string& strProfileName) const try {
+    for (const Entry& entry : m_items) {
+        if (mString::EqualsNoCase(entry.profile->ProfileName(), strProfileName))
+            return true;
+    }
+    return false;
+} catch (...) {
+    mError::PassOn("Profiles.DoesProfileExist");
+}
+
+void Profiles::SaveData(const std::string& strProfiles) try {
+    if (strProfiles.empty())
+        return;
+    // One replacement of the file for the whole list; what was saved before a failure is kept.
+    iniFile::Update save(g_cApp->IniPath());
+    for (const std::string& name : mString::Split(strProfiles, ';'))
+        Item(name).SaveData();
+} catch (...) {
+    mError::PassOn("Profiles.SaveData");
+}
+
+void Profiles::SaveWhichProfileIsActive() try {
+    m_settings.Write_ActiveProfileName(g_cApp->ActiveProfile()->ProfileName());
+} catch (...) {
+    mError::PassOn("Profiles.SaveWhichProfileIsActive");
+}
+
+bool Profiles::DataChanged() const {
+    for (const Entry& entry : m_items) {
+        if (entry.profile->DataChanged())
+            return true;
+    }
+    return false;
+}
+
+std::string Profiles::ReadFromIni_ActiveProfileName() const try {
+    return m_settings.Read_ActiveProfileName();
+} catch (...) {
+    mError::PassOn("Profiles.ReadFromIni_ActiveProfileName");
+}
+
+void Profiles::CreateStandardProfile() try {
+    Profile& profile = Add(kStandardProfileName, kStandardProfileName);
+    profile.SetProfileName(kStandardProfileName);
+    profile.SetProfileDescription(Translator().TranslateEx("GLOBAL", "STANDARD_PROFILE_DESC"));
+} catch (...) {
+    mError::PassOn("Profiles.CreateStandardProfile");
+}

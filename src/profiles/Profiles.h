@@ -1,0 +1,92 @@
+// Every profile of the program, in the order they were added, looked up by name without regard to case.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "profiles/Profile.h"
+#include "storage/cIni_Profiles.h"
+
+class Profiles {
+public:
+    // The fixed name of the standard profile.
+    static constexpr const char* kStandardProfileName = "PROFILE_DEFAULT";
+
+    // Creates a profile whose Key is `Key` and stores it under `sKey` (without a key when it is empty). A key
+    // that equals an existing one without regard to case is refused with failure 457.
+    Profile& Add(const std::string& Key, const std::string& sKey);
+
+    // Runs the new-profile dialog; the new profile, now active, or nullptr.
+    Profile* ShowAddNewDialog();
+
+    // By position (from 1) or by name; an unknown position fails with 9, an unknown name with 5.
+    Profile& Item(int32_t index);
+    Profile& Item(const std::string& name);
+
+    int32_t Count() const { return static_cast<int32_t>(m_items.size()); }
+
+    // Removes a profile from the collection (its section stays in the file).
+    void Remove(int32_t index);
+    void Remove(const std::string& name);
+
+    // Iteration in insertion order.
+    class Iterator;
+    Iterator begin() const;
+    Iterator end() const;
+
+    // Finds the profile sections of the settings file and loads them; makes the standard profile when
+    // there is none.
+    void LoadData();
+
+    // The profile chooser; the chosen profile or nullptr.
+    Profile* ShowLoadProfileDialog();
+
+    bool DoesProfileExist(const std::string& strProfileName) const;
+
+    // Saves the profiles named in `strProfiles` (names joined by ";"), in that order.
+    void SaveData(const std::string& strProfiles);
+
+    // Remembers the application's active profile in the settings file.
+    void SaveWhichProfileIsActive();
+
+    bool DataChanged() const;
+
+    std::string ReadFromIni_ActiveProfileName() const;
+
+    void CreateStandardProfile();
+
+private:
+    struct Entry {
+        std::string key;  // empty for a profile stored without a key
+        std::unique_ptr<Profile> profile;
+    };
+
+    // The profile stored under `key` (any case), or nullptr.
+    Profile* Find(const std::string& key) const;
+    void Store(const std::string& key, std::unique_ptr<Profile> profile);
+    void Erase(std::vector<Entry>::iterator entry);
+    void LoadSection(const std::string& name);
+
+    std::vector<Entry> m_items;
+    std::unordered_map<std::string, Profile*> m_byKey;  // lower-case key -> profile
+    cIni_Profiles m_settings;
+};
+
+class Profiles::Iterator {
+public:
+    using Base = std::vector<Entry>::const_iterator;
+    explicit Iterator(Base position) : m_position(position) {}
+    Profile& operator*() const { return *m_position->profile; }
+    Profile* operator->() const { return m_position->profile.get(); }
+    Iterator& operator++() {
+        ++m_position;
+        return *this;
+    }
+    bool operator==(const Iterator&) const = default;
+
+private:
+    Base m_position;
+};

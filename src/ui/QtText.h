@@ -1,0 +1,13 @@
+// The one place where text crosses between core (narrow strings in the system's encoding, byte for byte
+// as the settings and language files hold them) and Qt.
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace QtText {
+
+QString ToQt(const std::string& text);
+std::string FromQt(const QString& text);
+
+}  // namespace QtText

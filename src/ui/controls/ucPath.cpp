@@ -1,0 +1,255 @@
+#include "ui/controls/ucPath.h"
+
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPalette>
+#include <QSet>
+#include <QUrl>
+
+#include "error/mError.h"
+#include "ui/controls/PropertyBag.h"
+
+namespace {
+
+const QColor kDefaultBackColor(0xFF, 0xFF, 0xFF);
+
+// How a 16-bit Boolean is saved: true is -1, false 0.
+int16_t SavedFlag(bool value) {
+    return value ? -1 : 0;
+}
+
+// File managers on Linux add a plain-text copy of the file list they drag. That copy is no text of its own:
+// the drop must behave as the file list it mirrors, as it does where file drags carry no text at all.
+bool TextMirrorsUrls(const QString& text, const QList<QUrl>& urls) {
+    QSet<QString> names;
+    for (const QUrl& url : urls)
+        names << url.toString() << QString::fromUtf8(url.toEncoded()) << url.toLocalFile();
+    const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        if (!names.contains(line.trimmed()))
+            return false;
+    }
+    return !lines.isEmpty();
+}
+
+bool OffersText(const QMimeData* data) {
+    const bool plain = data->hasFormat(QStringLiteral("text/plain")) ||
+                       data->hasFormat(QStringLiteral("text/plain;charset=utf-8"));
+    return plain && !(data->hasUrls() && TextMirrorsUrls(data->text(), data->urls()));
+}
+
+// The files of a file list; a list that names anything but local files is no file list.
+QStringList OfferedFiles(const QMimeData* data) {
+    QStringList files;
+    for (const QUrl& url : data->urls()) {
+        if (!url.isLocalFile())
+            return {};
+        files << QDir::toNativeSeparators(QDir::cleanPath(url.toLocalFile()));
+    }
+    return files;
+}
+
+// Whatever is offered may be dropped (a drop of anything but text or one file empties the field); text and
+// a single file are taken as a copy, anything else with the action the drag source proposed.
+void TakeOffer(QDropEvent* event) {
+    const QMimeData* data = event->mimeData();
+    if (data && (OffersText(data) || OfferedFiles(data).size() == 1))
+        event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+bool IsDragEvent(const QEvent* event) {
+    return event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove;
+}
+
+}  // namespace
+
+ucPath::ucPath(QWidget* parent) : QWidget(parent), m_txtPath(new QLineEdit(this)) {
+    m_txtPath->setObjectName(QStringLiteral("txtPath"));
+    m_txtPath->setGeometry(0, 0, width(), height());
+    m_txtPath->installEventFilter(this);
+    setFocusProxy(m_txtPath);
+    setAcceptDrops(true);
+    setSizePolicy(m_txtPath->sizePolicy());
+    connect(m_txtPath, &QLineEdit::textChanged, this, &ucPath::txtPath_Change);
+    QPalette palette = m_txtPath->palette();
+    palette.setColor(QPalette::Base, kDefaultBackColor);
+    m_txtPath->setPalette(palette);
+}
+
+QColor ucPath::BackColor() const {
+    return mError::WithTrail("ucPath.Get BackColor",
+                             [this] { return m_txtPath->palette().color(QPalette::Base); });
+}
+
+void ucPath::SetBackColor(const QColor& value) try {
+    QPalette palette = m_txtPath->palette();
+    palette.setColor(QPalette::Base, value);
+    m_txtPath->setPalette(palette);
+    emit PropertyChanged(QStringLiteral("BackColor"));
+} catch (...) {
+    mError::PassOn("ucPath.Let BackColor");
+}
+
+QString ucPath::Text() const {
+    return mError::WithTrail("ucPath.Get Text", [this] { return m_txtPath->text(); });
+}
+
+void ucPath::SetText(const QString& value) try {
+    m_txtPath->setText(value);
+    emit PropertyChanged(QStringLiteral("Text"));
+} catch (...) {
+    mError::PassOn("ucPath.Let Text");
+}
+
+bool ucPath::AcceptFiles() const {
+    return mError::WithTrail("ucPath.Get AcceptFiles", [this] { return m_acceptFiles; });
+}
+
+void ucPath::SetAcceptFiles(bool value) try {
+    m_acceptFiles = value;
+    emit PropertyChanged(QStringLiteral("AcceptFiles"));
+} catch (...) {
+    mError::PassOn("ucPath.Let AcceptFiles");
+}
+
+bool ucPath::Enabled() const {
+    return mError::WithTrail("ucPath.Get Enabled", [this] { return m_txtPath->isEnabled(); });
+}
+
+void ucPath::SetEnabled(bool value) try {
+    m_txtPath->setEnabled(value);
+    emit PropertyChanged(QStringLiteral("Enabled"));
+} catch (...) {
+    mError::PassOn("ucPath.Let Enabled");
+}
+
+bool ucPath::AcceptFolders() const {
+    return mError::WithTrail("ucPath.Get AcceptFolders", [this] { return m_acceptFolders; });
+}
+
+void ucPath::SetAcceptFolders(bool value) try {
+    m_acceptFolders = value;
+    emit PropertyChanged(QStringLiteral("AcceptFolders"));
+} catch (...) {
+    mError::PassOn("ucPath.Let AcceptFolders");
+}
+
+int ucPath::BorderStyle() const {
+    return mError::WithTrail("ucPath.Get BorderStyle", [this] { return m_txtPath->hasFrame() ? 1 : 0; });
+}
+
+bool ucPath::Locked() const {
+    return mError::WithTrail("ucPath.Get Locked", [this] { return m_txtPath->isReadOnly(); });
+}
+
+void ucPath::SetLocked(bool value) try {
+    m_txtPath->setReadOnly(value);
+    emit PropertyChanged(QStringLiteral("Locked"));
+} catch (...) {
+    mError::PassOn("ucPath.Let Locked");
+}
+
+void ucPath::InitProperties() try {
+    m_acceptFiles = false;
+    m_acceptFolders = false;
+} catch (...) {
+    mError::ShowError("ucPath.UserControl_InitProperties");
+}
+
+void ucPath::ReadProperties(const PropertyBag& bag) try {
+    SetBackColor(bag.ReadColor(QStringLiteral("BackColor"), kDefaultBackColor));
+    SetText(bag.ReadText(QStringLiteral("Text"), QString()));
+    SetAcceptFiles(bag.ReadInt16(QStringLiteral("AcceptFiles"), 0) != 0);
+    SetEnabled(bag.ReadBool(QStringLiteral("Enabled"), true));
+    SetAcceptFolders(bag.ReadInt16(QStringLiteral("AcceptFolders"), 0) != 0);
+    SetLocked(bag.ReadBool(QStringLiteral("Locked"), false));
+} catch (...) {
+    mError::ShowError("ucPath.UserControl_ReadProperties");
+}
+
+void ucPath::WriteProperties(PropertyBag& bag) const try {
+    bag.WriteProperty(QStringLiteral("BackColor"), BackColor(), kDefaultBackColor);
+    bag.WriteProperty(QStringLiteral("Text"), Text(), QString());
+    bag.WriteProperty(QStringLiteral("AcceptFiles"), SavedFlag(AcceptFiles()), int16_t{0});
+    bag.WriteProperty(QStringLiteral("Enabled"), Enabled(), true);
+    bag.WriteProperty(QStringLiteral("AcceptFolders"), SavedFlag(AcceptFolders()), int16_t{0});
+    bag.WriteProperty(QStringLiteral("Locked"), Locked(), false);
+} catch (...) {
+    mError::ShowError("ucPath.UserControl_WriteProperties");
+}
+
+QSize ucPath::sizeHint() const {
+    return m_txtPath->sizeHint();
+}
+
+QSize ucPath::minimumSizeHint() const {
+    return m_txtPath->minimumSizeHint();
+}
+
+// Drops on the text box come here first, so the text box's own rule (insert at the cursor, refuse while
+// read-only) never applies: a drop always replaces the whole path.
+bool ucPath::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_txtPath)
+        return QWidget::eventFilter(watched, event);
+    if (IsDragEvent(event)) {
+        txtPath_OLEDragOver(static_cast<QDragMoveEvent*>(event));
+        return true;
+    }
+    if (event->type() == QEvent::Drop) {
+        txtPath_OLEDragDrop(static_cast<QDropEvent*>(event));
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ucPath::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    try {
+        m_txtPath->resize(size());
+    } catch (...) {
+        mError::ShowError("ucPath.UserControl_Resize");
+    }
+}
+
+void ucPath::dragEnterEvent(QDragEnterEvent* event) {
+    txtPath_OLEDragOver(event);
+}
+
+void ucPath::dragMoveEvent(QDragMoveEvent* event) {
+    txtPath_OLEDragOver(event);
+}
+
+void ucPath::dropEvent(QDropEvent* event) {
+    txtPath_OLEDragDrop(event);
+}
+
+void ucPath::txtPath_Change() try { emit Change(); } catch (...) {
+    mError::ShowError("ucPath.txtPath_Change");
+}
+
+void ucPath::txtPath_OLEDragOver(QDragMoveEvent* event) try { TakeOffer(event); } catch (...) {
+    mError::ShowError("ucPath.txtPath_OLEDragOver");
+}
+
+void ucPath::txtPath_OLEDragDrop(QDropEvent* event) try {
+    TakeOffer(event);
+    m_txtPath->setText(GetPathFromClipboard(event->mimeData()));
+} catch (...) {
+    mError::ShowError("ucPath.txtPath_OLEDragDrop");
+}
+
+QString ucPath::GetPathFromClipboard(const QMimeData* data) try {
+    if (!data)
+        return QString();
+    if (OffersText(data))
+        return data->text();
+    const QStringList files = OfferedFiles(data);
+    return files.size() == 1 ? files.front() : QString();
+} catch (...) {
+    mError::ShowError("ucPath.GetPathFromClipboard");
+    return QString();
+}

@@ -1,0 +1,82 @@
+#include "ui/controls/ucTabArea.h"
+
+#include <QPainter>
+
+#include "error/mError.h"
+#include "ui/controls/PropertyBag.h"
+
+namespace {
+
+const QColor kDefaultBorderColor(0x80, 0x80, 0x80);
+const QColor kDefaultBackColor(0xE0, 0xE0, 0xE0);
+
+}  // namespace
+
+ucTabArea::ucTabArea(QWidget* parent)
+    : QWidget(parent), m_borderColor(kDefaultBorderColor), m_backColor(kDefaultBackColor) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    m_frame = QRect(QPoint(0, 0), size());
+}
+
+QColor ucTabArea::BorderColor() const {
+    return mError::WithTrail("Get BorderColor", [this] { return m_borderColor; });
+}
+
+void ucTabArea::SetBorderColor(const QColor& value) try {
+    m_borderColor = value;
+    emit PropertyChanged(QStringLiteral("BorderColor"));
+    update();
+} catch (...) {
+    mError::PassOn("Let BorderColor");
+}
+
+QColor ucTabArea::BackColor() const {
+    return mError::WithTrail("Get BackColor", [this] { return m_backColor; });
+}
+
+void ucTabArea::SetBackColor(const QColor& value) try {
+    m_backColor = value;
+    emit PropertyChanged(QStringLiteral("BackColor"));
+    update();
+} catch (...) {
+    mError::PassOn("Let BackColor");
+}
+
+void ucTabArea::ReadProperties(const PropertyBag& bag) try {
+    SetBorderColor(bag.ReadColor(QStringLiteral("BorderColor"), kDefaultBorderColor));
+    SetBackColor(bag.ReadColor(QStringLiteral("BackColor"), kDefaultBackColor));
+} catch (...) {
+    mError::ShowError("UserControl_ReadProperties");
+}
+
+void ucTabArea::WriteProperties(PropertyBag& bag) const try {
+    bag.WriteProperty(QStringLiteral("BorderColor"), BorderColor(), kDefaultBorderColor);
+    bag.WriteProperty(QStringLiteral("BackColor"), BackColor(), kDefaultBackColor);
+} catch (...) {
+    mError::ShowError("UserControl_WriteProperties");
+}
+
+QSize ucTabArea::sizeHint() const {
+    return QSize(320, 200);
+}
+
+void ucTabArea::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(QPen(m_borderColor, 1));
+    painter.setBrush(m_backColor);
+    painter.drawRect(QRectF(m_frame).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void ucTabArea::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    UserControl_Resize();
+}
+
+void ucTabArea::UserControl_Resize() try {
+    if (width() > 0)
+        m_frame.setWidth(width());
+    if (height() > 0)
+        m_frame.setHeight(height());
+} catch (...) {
+    mError::ShowError("UserControl_Resize");
+}

@@ -1,0 +1,46 @@
+// The framed page area below a row of ucTab controls: one rectangle with a border and a fill colour that
+// follows the control's size. A zero width or height keeps the frame's previous extent in that direction.
+#pragma once
+
+#include <QColor>
+#include <QRect>
+#include <QWidget>
+
+class PropertyBag;
+
+class ucTabArea : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QColor BorderColor READ BorderColor WRITE SetBorderColor)
+    Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor)
+
+public:
+    explicit ucTabArea(QWidget* parent = nullptr);
+
+    QColor BorderColor() const;
+    void SetBorderColor(const QColor& value);
+    QColor BackColor() const;
+    void SetBackColor(const QColor& value);
+
+    void ReadProperties(const PropertyBag& bag);
+    void WriteProperties(PropertyBag& bag) const;
+
+    // The rectangle as it is drawn, in the control's pixels.
+    QRect FrameRect() const { return m_frame; }
+
+    QSize sizeHint() const override;
+
+signals:
+    // A persisted property was set; its key tells the host which.
+    void PropertyChanged(const QString& key);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void UserControl_Resize();
+
+    QColor m_borderColor;
+    QColor m_backColor;
+    QRect m_frame;
+};

@@ -1,0 +1,248 @@
+#include "ui/dialogs/frmError.h"
+
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include "Version.h"
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "error/mError.h"
+#include "platform/Platform.h"
+#include "translate/cTranslate.h"
+#include "ui/QtText.h"
+#include "ui/dialogs/MnemonicSet.h"
+
+namespace {
+
+constexpr const char* kSection = "ERROR_DIALOG";
+
+// A failure may arrive before the translation engine exists; the window then speaks English.
+QString DialogText(const char* section, const char* key, const char* english) {
+    if (!g_cApp || !g_cTranslate)
+        return QString::fromUtf8(english);
+    return QtText::ToQt(g_cTranslate->TranslateEx(section, key));
+}
+
+QLabel* WrappedLabel(const QString& name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QPlainTextEdit* ReadOnlyText(const QString& name, QWidget* parent) {
+    auto* text = new QPlainTextEdit(parent);
+    text->setObjectName(name);
+    text->setReadOnly(true);
+    text->setTabChangesFocus(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return text;
+}
+
+QPushButton* Button(const QString& name, QWidget* parent) {
+    auto* button = new QPushButton(parent);
+    button->setObjectName(name);
+    return button;
+}
+
+QHBoxLayout* RightAligned(QWidget* widget) {
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(widget);
+    return row;
+}
+
+}  // namespace
+
+frmError::frmError(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmError"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(CreateHeader());
+    layout->addLayout(CreateTabbedPages(), 1);
+    layout->addWidget(CreateButtonRow());
+    connect(TabStrip1, &QTabBar::currentChanged, this, &frmError::TabStrip1_Click);
+    SetTabOrder();
+    TranslateDialog();
+}
+
+QWidget* frmError::CreateHeader() {
+    auto* header = new QWidget(this);
+    auto* layout = new QGridLayout(header);
+    layout->setContentsMargins(0, 0, 0, 0);
+    lblIcon = new QLabel(header);
+    lblIcon->setObjectName(QStringLiteral("lblIcon"));
+    const int iconSize = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+    lblIcon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxCritical, nullptr, this).pixmap(iconSize));
+    lblDescription = WrappedLabel(QStringLiteral("lblDescription"), header);
+    txtDescription = ReadOnlyText(QStringLiteral("txtDescription"), header);
+    txtDescription->setMaximumHeight(fontMetrics().lineSpacing() * 3);
+    lblDescription->setBuddy(txtDescription);
+    layout->addWidget(lblIcon, 0, 0, 2, 1, Qt::AlignTop);
+    layout->addWidget(lblDescription, 0, 1);
+    layout->addWidget(txtDescription, 1, 1);
+    return header;
+}
+
+// The tab strip sits on the framed page area below it, as tabs do.
+QVBoxLayout* frmError::CreateTabbedPages() {
+    TabStrip1 = new QTabBar(this);
+    TabStrip1->setObjectName(QStringLiteral("TabStrip1"));
+    TabStrip1->setExpanding(false);
+    TabStrip1->addTab(QString());
+    TabStrip1->addTab(QString());
+    pages = new QStackedWidget(this);
+    pages->setFrameShape(QFrame::StyledPanel);
+    pages->addWidget(CreateReportPage());
+    pages->addWidget(CreateContactPage());
+    auto* tabbed = new QVBoxLayout;
+    tabbed->setSpacing(0);
+    tabbed->addWidget(TabStrip1);
+    tabbed->addWidget(pages, 1);
+    return tabbed;
+}
+
+QWidget* frmError::CreateReportPage() {
+    auto* page = new QWidget(this);
+    page->setObjectName(QStringLiteral("picPage_0"));
+    auto* layout = new QVBoxLayout(page);
+    lblNote = WrappedLabel(QStringLiteral("lblNote"), page);
+    txtErrorNote = ReadOnlyText(QStringLiteral("txtErrorNote"), page);
+    txtErrorNote->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    txtErrorNote->setLineWrapMode(QPlainTextEdit::NoWrap);
+    const QFontMetrics metrics(txtErrorNote->font());
+    txtErrorNote->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('x')) * 64,
+                                 metrics.lineSpacing() * 16);
+    cmdContact = Button(QStringLiteral("cmdContact"), page);
+    connect(cmdContact, &QPushButton::clicked, this, &frmError::cmdContact_Click);
+    layout->addWidget(lblNote);
+    layout->addWidget(txtErrorNote, 1);
+    layout->addLayout(RightAligned(cmdContact));
+    return page;
+}
+
+QWidget* frmError::CreateContactPage() {
+    auto* page = new QWidget(this);
+    page->setObjectName(QStringLiteral("picPage_1"));
+    auto* layout = new QVBoxLayout(page);
+    lblContactInfo = WrappedLabel(QStringLiteral("lblContactInfo"), page);
+    lblAddress = WrappedLabel(QStringLiteral("lblAddress"), page);
+    lblAddress->setText(QString::fromUtf8(Version::kContactEmail));
+    cmdDetails = Button(QStringLiteral("cmdDetails"), page);
+    connect(cmdDetails, &QPushButton::clicked, this, &frmError::cmdDetails_Click);
+    layout->addWidget(lblContactInfo);
+    layout->addWidget(lblAddress);
+    layout->addStretch();
+    layout->addLayout(RightAligned(cmdDetails));
+    return page;
+}
+
+QWidget* frmError::CreateButtonRow() {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    cmdCopy = Button(QStringLiteral("cmdCopy"), row);
+    Command1 = Button(QStringLiteral("Command1"), row);
+    cmdClose = Button(QStringLiteral("cmdClose"), row);
+    cmdCopy->setDefault(true);
+    connect(cmdCopy, &QPushButton::clicked, this, &frmError::cmdCopy_Click);
+    connect(Command1, &QPushButton::clicked, this, &frmError::Command1_Click);
+    connect(cmdClose, &QPushButton::clicked, this, &frmError::cmdClose_Click);
+    layout->addWidget(cmdCopy);
+    layout->addWidget(Command1);
+    layout->addStretch();
+    layout->addWidget(cmdClose);
+    return row;
+}
+
+void frmError::SetTabOrder() {
+    QWidget* const order[] = {txtDescription, TabStrip1, txtErrorNote, cmdContact,
+                              cmdDetails,     cmdCopy,   Command1,     cmdClose};
+    for (std::size_t i = 0; i + 1 < std::size(order); ++i)
+        setTabOrder(order[i], order[i + 1]);
+}
+
+void frmError::TranslateDialog() {
+    setWindowTitle(DialogText(kSection, "DIALOG_CAPTION", "Error Report"));
+    TabStrip1->setTabText(kReportPage, DialogText(kSection, "TAB_REPORT", "Report"));
+    TabStrip1->setTabText(kContactPage, DialogText(kSection, "TAB_CONTACT", "Contact"));
+    lblNote->setText(QStringLiteral("Please send an E-Mail with the following text to ") +
+                     QString::fromUtf8(Version::kContactEmail));
+    lblContactInfo->setText(DialogText(kSection, "LBL_CONTACT_INFO",
+                                       "Please help us fix this error: click Copy to put the report on the "
+                                       "clipboard, then click Write E-mail and paste the report into the new "
+                                       "message."));
+    MnemonicSet keys;
+    lblDescription->setText(keys.Add(DialogText(kSection, "LBL_DESCRIPTION", "An error has occurred:")));
+    cmdCopy->setText(keys.Add(DialogText(kSection, "BTN_COPY", "Copy")));
+    Command1->setText(keys.Add(DialogText(kSection, "BTN_SEND_MAIL", "Write E-mail")));
+    cmdContact->setText(keys.Add(DialogText(kSection, "BTN_CONTACT", "Contact")));
+    cmdDetails->setText(keys.Add(DialogText(kSection, "BTN_DETAILS", "Details")));
+    cmdClose->setText(keys.Add(DialogText("GLOBAL", "BTN_CLOSE", "Close")));
+}
+
+void frmError::InitDialog(const ErrorReport& report) try {
+    m_report = report;
+    txtDescription->setPlainText(
+        QtText::ToQt(report.description).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    txtErrorNote->setPlainText(
+        QtText::ToQt(report.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    TabStrip1->setCurrentIndex(kReportPage);
+    cmdCopy->setFocus();
+} catch (...) {
+    mError::PassOn("frmError.InitDialog");
+}
+
+void frmError::ActivatePage(int index) try { pages->setCurrentIndex(index); } catch (...) {
+    mError::PassOn("frmError.ActivatePage");
+}
+
+void frmError::ShowPage(Page page) {
+    TabStrip1->setCurrentIndex(page);
+    Command1->setFocus();
+}
+
+void frmError::TabStrip1_Click(int index) try { ActivatePage(index); } catch (...) {
+    mError::ShowError("frmError.TabStrip1_Click");
+}
+
+void frmError::cmdContact_Click() try { ShowPage(kContactPage); } catch (...) {
+    mError::ShowError("frmError.cmdContact_Click");
+}
+
+void frmError::cmdDetails_Click() try { ShowPage(kReportPage); } catch (...) {
+    mError::ShowError("frmError.cmdDetails_Click");
+}
+
+void frmError::cmdCopy_Click() try {
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(QtText::ToQt(m_report.text));
+} catch (...) {
+    mError::ShowError("frmError.cmdCopy_Click");
+}
+
+// Before the application object exists there is nobody to ask, so the mail goes straight to the shell.
+void frmError::Command1_Click() try {
+    const auto owner = static_cast<int64_t>(winId());
+    if (g_cApp)
+        g_cApp->ContactAuthor(owner);
+    else
+        Os().ShellExec(owner, "open", Application::ContactAddress(), "", "", kSwShowNormal);
+} catch (...) {
+    mError::ShowError("frmError.Command1_Click");
+}
+
+void frmError::cmdClose_Click() try { close(); } catch (...) {
+    mError::ShowError("frmError.cmdClose_Click");
+}

@@ -1,0 +1,119 @@
+#include "ui/dialogs/frmStartingTarvolin.h"
+
+#include <QCheckBox>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "error/mError.h"
+#include "profiles/Profile.h"
+#include "translate/cTranslate.h"
+#include "ui/QtText.h"
+#include "ui/dialogs/MnemonicSet.h"
+
+namespace {
+
+constexpr const char* kSection = "START_TARVOLIN_DIALOG";
+
+QLabel* WrappedLabel(const QString& name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setWordWrap(true);
+    return label;
+}
+
+// The command line can be long and is worth copying, so it is framed, wrapped and selectable.
+QLabel* CommandLineLabel(QWidget* parent) {
+    QLabel* label = WrappedLabel(QStringLiteral("lblInfo"), parent);
+    label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    label->setFrameShape(QFrame::StyledPanel);
+    label->setMargin(label->fontMetrics().averageCharWidth());
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return label;
+}
+
+Application& App() {
+    if (!g_cApp)
+        mError::RaiseError(mError::kInternalError, "The application object does not exist yet");
+    return *g_cApp;
+}
+
+}  // namespace
+
+frmStartingTarvolin::frmStartingTarvolin(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmStartingTarvolin"));
+    auto* layout = new QVBoxLayout(this);
+    lblCaption = WrappedLabel(QStringLiteral("lblCaption"), this);
+    lblInfo = CommandLineLabel(this);
+    lblWarning = WrappedLabel(QStringLiteral("lblWarning"), this);
+    ckDontShowThisDialogAgain = new QCheckBox(this);
+    ckDontShowThisDialogAgain->setObjectName(QStringLiteral("ckDontShowThisDialogAgain"));
+    layout->addWidget(lblCaption);
+    layout->addWidget(lblInfo);
+    layout->addWidget(lblWarning);
+    layout->addSpacing(fontMetrics().height() / 2);
+    layout->addWidget(ckDontShowThisDialogAgain);
+    layout->addWidget(CreateButtonRow());
+    setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+}
+
+QWidget* frmStartingTarvolin::CreateButtonRow() {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    cmdOk = new QPushButton(row);
+    cmdOk->setObjectName(QStringLiteral("cmdOk"));
+    cmdOk->setDefault(true);
+    cmdCancel = new QPushButton(row);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    connect(cmdOk, &QPushButton::clicked, this, &frmStartingTarvolin::cmdOk_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmStartingTarvolin::cmdCancel_Click);
+    layout->addStretch();
+    layout->addWidget(cmdOk);
+    layout->addWidget(cmdCancel);
+    return row;
+}
+
+void frmStartingTarvolin::InitDialog(const Profile& oProfile) try {
+    lblInfo->setText(QtText::ToQt(oProfile.GetCmdLineParameters()));
+    TranslateDialog();
+    m_cancel = true;
+    cmdOk->setFocus();
+} catch (...) {
+    mError::PassOn("frmStartingTarvolin.InitDialog");
+}
+
+std::string frmStartingTarvolin::TranslateDialogItem(const std::string& key) const try {
+    return Translator().TranslateEx(kSection, key);
+} catch (...) {
+    mError::PassOn("frmStartingTarvolin.TranslateDialogItem");
+}
+
+void frmStartingTarvolin::TranslateDialog() try {
+    setWindowTitle(QtText::ToQt(TranslateDialogItem("DIALOG_CAPTION")));
+    lblCaption->setText(QtText::ToQt(TranslateDialogItem("LBL_DIALOG_INFO")));
+    lblWarning->setText(QtText::ToQt(TranslateDialogItem("LBL_WARNING")));
+    MnemonicSet keys;
+    ckDontShowThisDialogAgain->setText(keys.Add(QtText::ToQt(TranslateDialogItem("CHK_DONT_SHOW_DIALOG"))));
+    cmdOk->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_OK")));
+    cmdCancel->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_CANCEL")));
+} catch (...) {
+    mError::PassOn("frmStartingTarvolin.TranslateDialog");
+}
+
+void frmStartingTarvolin::cmdOk_Click() try {
+    App().Options().SetShowStartTarvolinDialog(!ckDontShowThisDialogAgain->isChecked());
+    m_cancel = false;
+    accept();
+} catch (...) {
+    mError::ShowError("frmStartingTarvolin.cmdOk_Click");
+}
+
+void frmStartingTarvolin::cmdCancel_Click() try { reject(); } catch (...) {
+    mError::ShowError("frmStartingTarvolin.cmdCancel_Click");
+}

@@ -1,0 +1,88 @@
+#include "app/mMain.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "app/mMutex.h"
+#include "error/ErrorReport.h"
+#include "error/mError.h"
+#include "support/AppFixture.h"
+#include "support/FailureMatchers.h"
+
+namespace {
+
+class mMainTest : public AppFixture {
+protected:
+    static OpenFileAnswer Chosen(const std::string& file) {
+        return OpenFileAnswer{OpenFileAnswer::Outcome::kChosen, {file}, false, 0};
+    }
+};
+
+TEST_F(mMainTest, GamePathChooserProposesAnExistingFileOnly) {
+    std::filesystem::create_directory(dir.Path() / "Spiel");
+    const std::string game = dir.Write("Spiel/tarvolin.exe", "MZ");
+    const std::pair<std::string, std::string> cases[] = {{"", "tarvolin.exe"},
+                                                         {dir.File("Spiel"), "tarvolin.exe"},
+                                                         {dir.File("gone.exe"), "tarvolin.exe"},
+                                                         {game, game}};
+    for (const auto& [current, proposal] : cases)
+        EXPECT_EQ(mMain::AskForTarvoPath(current), proposal) << "cancelled with " << current;
+    ASSERT_EQ(ui.fileRequests.size(), 4u);
+    const OpenFileOptions& asked = ui.fileRequests[0];
+    EXPECT_EQ(asked.filter, "Programs (*.exe)|*.exe");
+    EXPECT_EQ(asked.title, "Choose the Tarvolin Program File (tarvolin.exe)");
+    EXPECT_EQ(asked.defaultExtension, ".exe");
+    EXPECT_TRUE(asked.fileMustExist);
+    EXPECT_TRUE(asked.hideReadOnly);
+    EXPECT_FALSE(asked.multiSelect);
+    EXPECT_FALSE(asked.readOnlyChecked);
+    EXPECT_EQ(asked.owner, -1);
+    ui.fileAnswers.push_back(Chosen("/elsewhere/tarvolin.exe"));
+    EXPECT_EQ(mMain::AskForTarvoPath(game), "/elsewhere/tarvolin.exe");
+}
+
+TEST_F(mMainTest, EditorChooserProposesTheSystemsWriteProgram) {
+    platform.windowsDirectory = "/opt/windows";
+    EXPECT_EQ(mMain::AskForEditorPath(""), "/opt/windows/write.exe");
+    platform.windowsDirectory = "/opt/windows/";
+    EXPECT_EQ(mMain::AskForEditorPath(dir.File("missing")), "/opt/windows/write.exe");
+    g_cApp->Options().SetLanguage("DE");
+    mMain::AskForEditorPath("");
+    EXPECT_EQ(ui.fileRequests.back().filter, "Programme (*.exe)|*.exe");
+    EXPECT_EQ(ui.fileRequests.back().title, "Texteditor auswählen");
+}
+
+TEST_F(mMainTest, EditorChooserFailuresCarryTheGameChoosersName) {
+    ui.fileAnswers.push_back(OpenFileAnswer{OpenFileAnswer::Outcome::kFailed, {}, false, 12290});
+    const auto failure = FailureOf([] { mMain::AskForEditorPath(""); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(TrailOf(*failure).front(), "mMain.AskForTarvoPath");
+}
+
+TEST_F(mMainTest, GameVersionFallsBackToTheGamesName) {
+    EXPECT_EQ(mMain::GetTarvolinFile_VersionInfo(""), "Tarvolin");
+    EXPECT_EQ(mMain::GetTarvolinFile_VersionInfo(dir.Write("tarvolin.exe", "#!/bin/sh\n")), "Tarvolin");
+    EXPECT_EQ(mMain::GetTarvolinFile_VersionInfo(dir.File("missing.exe")), "Tarvolin");
+}
+
+TEST_F(mMainTest, ErrorReportNamesTheActiveProfilesGame) {
+    Profile& active = g_cApp->Profiles().Add("profile_A", "profile_A");
+    active.SetTarvolinPath("/games/Tarvolin/tarvolin.exe");
+    g_cApp->SetActiveProfile(&active);
+    const std::string text = ComposeErrorReport(Failure(5, "x")).text;
+    EXPECT_NE(text.find("\r\nTarvolin-Version: Tarvolin\r\nTarvolin-Path: /games/Tarvolin/tarvolin.exe"),
+              std::string::npos);
+}
+
+TEST_F(mMainTest, ClosingReleasesBothProgramWideObjectsAndTheMarkerIsCreated) {
+    mMutex::CreateMutex();
+    EXPECT_EQ(platform.mutexes, (std::vector<std::string>{"Pavonel_MTX"}));
+    mMain::ClosePublicObjects();
+    EXPECT_EQ(g_cApp, nullptr);
+    EXPECT_EQ(g_cTranslate, nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,103 @@
+// A stand-in for the game in launch tests: it appends a line to tarvo.log in its working directory the way
+// the game does, records how it was started, and ends at once.
+//
+// The record, launch-record.txt beside this executable, holds the working directory on its first line, the
+// number of arguments on the second, and then each argument (argv[1] on) on a line of its own. In the
+// directory and the arguments a backslash is written "\\", a line feed "\n" and a carriage return "\r", so
+// every line stands for exactly one text. The record is written under another name and renamed, so a
+// record that exists is complete.
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <random>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Escaped(std::string_view text) {
+    std::string result;
+    for (const char c : text) {
+        if (c == '\\')
+            result += "\\\\";
+        else if (c == '\n')
+            result += "\\n";
+        else if (c == '\r')
+            result += "\\r";
+        else
+            result += c;
+    }
+    return result;
+}
+
+int ArgumentCount(int argc) {
+    return argc > 1 ? argc - 1 : 0;
+}
+
+std::string RecordText(const fs::path& directory, int argc, char** argv) {
+    std::string text = Escaped(directory.string()) + "\n" + std::to_string(ArgumentCount(argc)) + "\n";
+    for (int i = 1; i < argc; ++i)
+        text += Escaped(argv[i]) + "\n";
+    return text;
+}
+
+// /proc/self/exe names the file itself; argv[0] is the fallback where there is no /proc.
+fs::path OwnFolder(const char* argv0) {
+    std::error_code error;
+    const fs::path self = fs::read_symlink("/proc/self/exe", error);
+    if (!error)
+        return self.parent_path();
+    return fs::absolute(argv0 != nullptr ? argv0 : "", error).parent_path();
+}
+
+bool WriteWhole(const fs::path& path, const std::string& text) {
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out << text;
+    out.close();
+    return !out.fail();
+}
+
+// A random part in the temporary name keeps two copies started at once from writing the same file.
+bool WriteAtomically(const fs::path& path, const std::string& text) {
+    const fs::path part = path.string() + "." + std::to_string(std::random_device{}()) + ".part";
+    std::error_code error;
+    if (WriteWhole(part, text)) {
+        fs::rename(part, path, error);
+        if (!error)
+            return true;
+    }
+    fs::remove(part, error);
+    return false;
+}
+
+bool AppendLog(const fs::path& directory, int argc) {
+    std::ofstream log(directory / "tarvo.log", std::ios::binary | std::ios::app);
+    log << "Tarvolin stand-in started with " << ArgumentCount(argc) << " arguments\n";
+    log.close();
+    return !log.fail();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::error_code error;
+    const fs::path directory = fs::current_path(error);
+    if (error) {
+        std::cerr << "stand-in game: no working directory: " << error.message() << '\n';
+        return EXIT_FAILURE;
+    }
+    // The log comes first: a test that sees the record may read the log at once.
+    const bool logged = AppendLog(directory, argc);
+    if (!logged)
+        std::cerr << "stand-in game: cannot append to tarvo.log in " << directory << '\n';
+    const fs::path record = OwnFolder(argc > 0 ? argv[0] : nullptr) / "launch-record.txt";
+    if (!WriteAtomically(record, RecordText(directory, argc, argv))) {
+        std::cerr << "stand-in game: cannot write " << record << '\n';
+        return EXIT_FAILURE;
+    }
+    return logged ? EXIT_SUCCESS : EXIT_FAILURE;
+}

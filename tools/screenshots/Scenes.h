@@ -1,0 +1,11 @@
+// What the screenshots show: every window and control of the program, in the current language.
+#pragma once
+
+class ScreenshotSession;
+
+namespace Scenes {
+
+void RenderDialogs(ScreenshotSession& session);
+void RenderControls(ScreenshotSession& session);
+
+}  // namespace Scenes
