@@ -1,6 +1,6 @@
 // The only way core reaches the operating system for things a test must be able to replace: where the
-// program lives, what the shell is asked to open, the special folders and the running marker. Each OS has its implementation in its own folder;
-// tests install a recording fake.
+// program lives, what the shell is asked to open, the special folders and the running marker. Each OS has its
+// implementation in its own folder; tests install a recording fake.
 #pragma once
 
 #include <cstdint>
