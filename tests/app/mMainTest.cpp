@@ -62,10 +62,12 @@ TEST_F(mMainTest, EditorChooserFailuresCarryTheGameChoosersName) {
     EXPECT_EQ(TrailOf(*failure).front(), "mMain.AskForTarvoPath");
 }
 
-TEST_F(mMainTest, GameVersionFallsBackToTheGamesName) {
+TEST_F(mMainTest, GameVersionIsProductNameAndVersionOrTheGamesName) {
     EXPECT_EQ(mMain::GetTarvolinFile_VersionInfo(""), "Tarvolin");
     EXPECT_EQ(mMain::GetTarvolinFile_VersionInfo(dir.Write("tarvolin.exe", "#!/bin/sh\n")), "Tarvolin");
     EXPECT_EQ(mMain::GetTarvolinFile_VersionInfo(dir.File("missing.exe")), "Tarvolin");
+    const std::string game = std::string(PAVONEL_SOURCE_DIR) + "/tests/fileinfo/fixtures/version64.exe";
+    EXPECT_EQ(mMain::GetTarvolinFile_VersionInfo(game), "Tarvolin 1.4 Gold");
 }
 
 TEST_F(mMainTest, ErrorReportNamesTheActiveProfilesGame) {

@@ -6,32 +6,33 @@
 
 #include <sstream>
 
-#include "fileinfo/PeBuilder.h"
+#include "fileinfo/VersionFixture.h"
 
-using namespace PeBuilder;
+using namespace VersionFixture;
 
 namespace {
-
-const std::string kResource = Resource({{u"ProductName", u"Tarvolin"}, {u"ProductVersion", u"1.0"}});
 
 std::optional<std::string> VersionResourceOf(const std::string& bytes) {
     std::istringstream image(bytes);
     return PeImage(image).VersionResource();
 }
 
-class PeFormats : public ::testing::TestWithParam<bool> {};
-
-// Whatever the cut, the resource is found exactly when all of it is in the file.
-TEST_P(PeFormats, FindsTheResourceOnlyWhenItIsWhole) {
-    Image image = Build(kResource, GetParam());
-    EXPECT_EQ(VersionResourceOf(image.bytes), kResource);
-    std::size_t end = image.layout.data + kResource.size();
-    for (std::size_t size = 0; size <= end; ++size)
-        EXPECT_EQ(VersionResourceOf(image.bytes.substr(0, size)).has_value(), size == end) << size;
+// Whatever cuts the file or its resource section short, the resource is found exactly when all of it is in.
+TEST(PeImage, FindsTheResourceOnlyWhenItIsWhole) {
+    for (const char* name : kImages) {
+        SCOPED_TRACE(name);
+        std::string image = Bytes(name);
+        Layout at = LayoutOf(image);
+        std::size_t end = at.data + kResourceSize;
+        EXPECT_EQ(VersionResourceOf(image), image.substr(at.data, kResourceSize));
+        for (std::size_t size = 0; size <= end; ++size)
+            EXPECT_EQ(VersionResourceOf(image.substr(0, size)).has_value(), size == end) << size;
+        for (uint32_t span = 1; span <= end - at.root; ++span) {
+            PutU32(image, at.section + 8, span);
+            EXPECT_EQ(VersionResourceOf(image).has_value(), span == end - at.root) << span;
+        }
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Pe, PeFormats, ::testing::Values(false, true),
-                         [](const auto& info) { return info.param ? "Pe32Plus" : "Pe32"; });
 
 // A field overwritten with `value`: `width` bytes at `offset` behind the part of the image named by `part`.
 struct Damage {
@@ -42,60 +43,42 @@ struct Damage {
     uint32_t value;
 };
 
-void PrintTo(const Damage& damage, std::ostream* out) {
-    *out << damage.name;
-}
-
 class DamagedImage : public ::testing::TestWithParam<Damage> {};
 
 TEST_P(DamagedImage, HasNoVersionResource) {
-    for (bool pe32Plus : {false, true}) {
-        Image image = Build(kResource, pe32Plus);
+    for (const char* name : kImages) {
+        std::string image = Bytes(name);
         const Damage& damage = GetParam();
         std::size_t at =
-            static_cast<std::size_t>(static_cast<int>(image.layout.*damage.part) + damage.offset);
-        (damage.width == 2 ? PutU16 : PutU32)(image.bytes, at, damage.value);
-        EXPECT_FALSE(VersionResourceOf(image.bytes)) << (pe32Plus ? "PE32+" : "PE32");
+            static_cast<std::size_t>(static_cast<int>(LayoutOf(image).*damage.part) + damage.offset);
+        (damage.width == 2 ? PutU16 : PutU32)(image, at, damage.value);
+        EXPECT_FALSE(VersionResourceOf(image)) << name;
     }
 }
 
 constexpr uint32_t kSubdirectory = 0x80000000u;
 
 INSTANTIATE_TEST_SUITE_P(
-    Headers, DamagedImage,
-    ::testing::Values(Damage{"NoDosSignature", &Layout::dosHeader, 0, 2, 0x5A4E},
-                      Damage{"PeHeaderBeyondFile", &Layout::dosHeader, 0x3C, 4, 0xFFFFFFF0},
-                      Damage{"NoPeSignature", &Layout::peHeader, 0, 4, 0x4551},
-                      Damage{"UnknownMagic", &Layout::optionalHeader, 0, 2, 0x107},
-                      Damage{"TooFewDirectories", &Layout::dataDirectories, -4, 4, 2},
-                      Damage{"OptionalHeaderTooSmall", &Layout::peHeader, 20, 2, 96},
-                      Damage{"NoResourceDirectory", &Layout::dataDirectories, 16, 4, 0},
-                      Damage{"ResourceOutsideSections", &Layout::dataDirectories, 16, 4, 0x9000},
-                      Damage{"NoSections", &Layout::peHeader, 6, 2, 0},
-                      Damage{"SectionTableBeyondFile", &Layout::peHeader, 6, 2, 0xFFFF},
-                      Damage{"SectionDataBeyondFile", &Layout::sectionTable, 60, 4, 0xFFFFFF00},
-                      Damage{"SectionEndsInsideDirectory", &Layout::sectionTable, 48, 4, 64},
-                      Damage{"SectionEndsInsideResource", &Layout::sectionTable, 48, 4, 96 + 10}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-INSTANTIATE_TEST_SUITE_P(
-    ResourceTree, DamagedImage,
-    ::testing::Values(Damage{"NoVersionType", &Layout::resourceSection, 24, 4, 17},
-                      Damage{"VersionTypeIsData", &Layout::resourceSection, 28, 4, 32},
-                      Damage{"AbsurdEntryCounts", &Layout::resourceSection, 12, 4, 0xFFFFFFFF},
-                      Damage{"EmptyNameDirectory", &Layout::nameDirectory, 14, 2, 0},
-                      Damage{"NameLevelLoopsToRoot", &Layout::nameDirectory, 20, 4, kSubdirectory},
-                      Damage{"SubdirectoryFarAway", &Layout::nameDirectory, 20, 4, 0xFFFFFFFF},
-                      Damage{"LanguageLevelLoopsToItself", &Layout::languageDirectory, 20, 4,
-                             kSubdirectory | 56},
-                      Damage{"DataEntryOutsideSection", &Layout::languageDirectory, 20, 4, 0x7FFFFFF0},
+    Fields, DamagedImage,
+    ::testing::Values(Damage{"NoDosSignature", &Layout::dos, 0, 2, 0x5A4E},
+                      Damage{"PeHeaderBeyondFile", &Layout::dos, 0x3C, 4, 0xFFFFFFF0},
+                      Damage{"NoPeSignature", &Layout::pe, 0, 4, 0x4551},
+                      Damage{"UnknownMagic", &Layout::optional, 0, 2, 0x107},
+                      Damage{"TooFewDirectories", &Layout::directories, -4, 4, 2},
+                      Damage{"OptionalHeaderTooSmall", &Layout::pe, 20, 2, 96},
+                      Damage{"NoResourceDirectory", &Layout::directories, 16, 4, 0},
+                      Damage{"ResourceOutsideSections", &Layout::directories, 16, 4, 0x90000},
+                      Damage{"SectionTableBeyondFile", &Layout::pe, 6, 2, 0xFFFF},
+                      Damage{"SectionDataBeyondFile", &Layout::section, 20, 4, 0xFFFFFF00},
+                      Damage{"NoVersionType", &Layout::root, 16, 4, 17},
+                      Damage{"VersionTypeIsData", &Layout::root, 20, 4, 0x18},
+                      Damage{"AbsurdEntryCounts", &Layout::root, 12, 4, 0xFFFFFFFF},
+                      Damage{"EmptyNameDirectory", &Layout::names, 14, 2, 0},
+                      Damage{"NameLevelLoopsToRoot", &Layout::names, 20, 4, kSubdirectory},
+                      Damage{"LanguageLevelLoopsToRoot", &Layout::languages, 20, 4, kSubdirectory},
+                      Damage{"DataEntryOutsideSection", &Layout::languages, 20, 4, 0x7FFFFFF0},
                       Damage{"DataRvaOutsideSections", &Layout::dataEntry, 0, 4, 0xFFFFFFFF},
                       Damage{"AbsurdDataSize", &Layout::dataEntry, 4, 4, 0xFFFFFFF0}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST(PeImage, ReadsNothingFromAnEmptyOrForeignStream) {
-    for (const std::string& bytes : {std::string(), std::string("MZ"), std::string(4096, 'M')})
-        EXPECT_FALSE(VersionResourceOf(bytes));
-}
 
 }  // namespace

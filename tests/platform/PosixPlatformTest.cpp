@@ -1,3 +1,5 @@
+// The shell's "open" on Linux with real programs: the stand-in game, fakes of Wine and of the desktop's
+// handler, and everything that cannot be started.
 #include "platform/posix/PosixPlatform.h"
 
 #include <fcntl.h>
@@ -5,229 +7,190 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <optional>
-#include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/ChildProcessTest.h"
+#include "support/StandInGame.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-// Standard input other than /dev/null, so that the started program's /dev/null is known to come from the
-// launcher and not from whoever runs the tests.
-class ScopedInput {
-public:
-    explicit ScopedInput(const std::string& file) : m_saved(dup(STDIN_FILENO)) {
-        const int input = open(file.c_str(), O_RDONLY);
-        dup2(input, STDIN_FILENO);
-        close(input);
-    }
-    ~ScopedInput() {
-        dup2(m_saved, STDIN_FILENO);
-        close(m_saved);
-    }
-    ScopedInput(const ScopedInput&) = delete;
-    ScopedInput& operator=(const ScopedInput&) = delete;
-
-private:
-    int m_saved;
-};
-
-std::string ReadText(const std::string& path) {
-    std::ifstream in(path);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-// Children of this process that still carry its name: a starter that was not reaped, or one that never
-// went on to exec.
-int ChildrenNamedLikeThisProcess() {
-    const std::string self = ReadText("/proc/self/comm");
-    std::istringstream children(ReadText("/proc/self/task/" + std::to_string(getpid()) + "/children"));
-    int count = 0;
-    for (pid_t child = 0; children >> child;)
-        count += ReadText("/proc/" + std::to_string(child) + "/comm") == self ? 1 : 0;
-    return count;
+TEST(ProgramDirectoryTest, IsTheFolderOfTheRunningExecutable) {
+    EXPECT_EQ(PosixPlatform().ProgramDirectory(),
+              fs::canonical(program_invocation_name).parent_path().string());
 }
 
 using PosixPlatformTest = ChildProcessTest;
 
-TEST_F(PosixPlatformTest, ProgramDirectoryIsTheFolderOfTheRunningExecutable) {
-    EXPECT_EQ(m_platform.ProgramDirectory(), fs::canonical(program_invocation_name).parent_path().string());
-}
+TEST_F(PosixPlatformTest, TheGameGetsItsArgumentsAndWorkingDirectory) {
+    // The game's folder inside the test's folder, whether it is its working directory (else there is none,
+    // so it runs in the launcher's), its parameters and its arguments.
+    const std::tuple<std::string, bool, std::string, std::vector<std::string>> cases[] = {
+        {"Tarvolin",
+         true,
+         "-scenario \"Meine Karte 1.sve\"  \"\" a\\\"b \"x\ny\" b\\\\x\\",
+         {"-scenario", "Meine Karte 1.sve", "", "a\"b", "x\ny", "b\\\\x\\"}},
+        {"Spiele mit Leerzeichen/Tarvolin \xC3\x9C\x62\x65rsee \xE6\x97\x85",
+         true,
+         "-freeplay -refresh 2",
+         {"-freeplay", "-refresh", "2"}},
+        {"NoWorkingDirectory", false, "", {}},
+    };
+    for (const auto& [name, inGameFolder, parameters, arguments] : cases) {
+        SCOPED_TRACE(name);
+        const StandInGame game(m_dir.Path() / name);
+        const fs::path folder = fs::path(game.Path()).parent_path();
 
-TEST_F(PosixPlatformTest, StartsAnExecutableDetachedWithItsArgumentsAndWorkingDirectory) {
-    const std::string program = WriteRecorder("game", "report");
-    const std::string work = MakeFolder("work dir");
-    const ScopedInput input(m_dir.Write("input", "typed"));
+        ASSERT_EQ(Open(game.Path(), parameters, inGameFolder ? folder.string() : ""), kShellExecOk);
 
-    ASSERT_EQ(Open(program, R"(-scenario "C:\my maps\a b.sve" -res 3 "" a\\\"b)", work), kShellExecOk);
-    EXPECT_EQ(ChildrenNamedLikeThisProcess(), 0);
-
-    const std::optional<Report> report = WaitForReport("report");
-    ASSERT_TRUE(report.has_value());
-    const std::vector<std::string> expected = {"-scenario", R"(C:\my maps\a b.sve)", "-res", "3", "",
-                                               R"(a\"b)"};
-    EXPECT_EQ(report->arguments, expected);
-    EXPECT_EQ(report->directory, Canonical(work));
-    EXPECT_EQ(report->input, "/dev/null");
-    EXPECT_NE(report->session, std::to_string(getsid(0)));
-}
-
-TEST_F(PosixPlatformTest, RelativeFileIsLookedForInTheWorkingDirectory) {
-    const std::string tools = MakeFolder("tools");
-    WriteRecorder("tools/editor.exe", "report");
-
-    ASSERT_EQ(Open("editor.exe", "", tools), kShellExecOk);
-
-    const std::optional<Report> report = WaitForReport("report");
-    ASSERT_TRUE(report.has_value());
-    EXPECT_EQ(report->directory, Canonical(tools));
-}
-
-template <class Case>
-std::string CaseName(const ::testing::TestParamInfo<Case>& info) {
-    return info.param.name;
-}
-
-struct VerbCase {
-    std::string name;
-    std::string verb;
-    int32_t expected;
-    friend void PrintTo(const VerbCase& c, std::ostream* out) { *out << c.name; }
-};
-
-class ShellExecVerbTest : public PosixPlatformTest, public ::testing::WithParamInterface<VerbCase> {};
-
-TEST_P(ShellExecVerbTest, OnlyOpenIsKnown) {
-    const std::string program = WriteRecorder("game", "report");
-
-    EXPECT_EQ(Open(program, "", "", GetParam().verb), GetParam().expected);
-    if (GetParam().expected == kShellExecOk) {
-        EXPECT_TRUE(WaitForReport("report").has_value());
+        const std::optional<LaunchRecord> record = game.WaitForRecord();
+        ASSERT_TRUE(record.has_value());
+        EXPECT_EQ(record->arguments, arguments);
+        EXPECT_EQ(record->directory, fs::canonical(inGameFolder ? folder : m_dir.Path()));
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Verbs, ShellExecVerbTest,
-                         ::testing::Values(VerbCase{"Empty", "", kShellExecOk},
-                                           VerbCase{"OpenInCapitals", "OPEN", kShellExecOk},
-                                           VerbCase{"Print", "print", kSeErrNoAssociation},
-                                           VerbCase{"LongerThanOpen", "opened", kSeErrNoAssociation}),
-                         CaseName<VerbCase>);
+// Closing the terminal the launcher runs in must not reach the game, nor must the game read from it. The
+// starter in between is reaped, so the program is the test's only child (by adoption).
+TEST_F(PosixPlatformTest, AProgramIsStartedDetached) {
+    const int saved = dup(STDIN_FILENO);
+    const int input = open(m_dir.Write("input", "typed").c_str(), O_RDONLY);
+    dup2(input, STDIN_FILENO);
+    close(input);
+    const int32_t result = Open("/bin/sleep", "3");
+    dup2(saved, STDIN_FILENO);
+    close(saved);
+    ASSERT_EQ(result, kShellExecOk);
 
-// Names are inside the test's folder; an empty name stays empty.
-struct MissingCase {
+    std::ifstream children("/proc/self/task/" + std::to_string(getpid()) + "/children");
+    const std::vector<pid_t> started{std::istream_iterator<pid_t>(children), {}};
+    ASSERT_EQ(started.size(), 1U);
+    const std::string proc = "/proc/" + std::to_string(started[0]);
     std::string name;
-    std::string file;
-    std::string directory;
-    int32_t expected;
-    friend void PrintTo(const MissingCase& c, std::ostream* out) { *out << c.name; }
-};
+    std::ifstream(proc + "/comm") >> name;
+    EXPECT_EQ(name, "sleep");
+    EXPECT_EQ(fs::read_symlink(proc + "/fd/0"), "/dev/null");
+    EXPECT_NE(getsid(started[0]), getsid(0));
+    kill(started[0], SIGKILL);
+}
 
-class ShellExecMissingTest : public PosixPlatformTest, public ::testing::WithParamInterface<MissingCase> {
-protected:
-    std::string Inside(const std::string& name) { return name.empty() ? name : m_dir.File(name); }
-};
+// wine64 comes first on PATH, yet wine is preferred while there is one.
+TEST_F(PosixPlatformTest, AWindowsProgramIsStartedThroughWineElseWine64) {
+    const std::string folder = MakeFolder("Game Folder");
+    const std::string program = m_dir.Write("Game Folder/TARVOLIN.EXE", std::string("MZ\x90\0\x03\0", 6));
+    const StandInGame wine64(m_dir.Path() / "bin64", "wine64");
+    const StandInGame wine(m_dir.Path() / "bin", "wine");
+    m_environment.Set("PATH", m_dir.File("bin64") + ":" + m_dir.File("bin"));
+    for (const StandInGame* helper : {&wine, &wine64}) {
+        SCOPED_TRACE(helper->Path());
+        ASSERT_EQ(Open(program, R"(-scenario "a b.sve" -log)", folder), kShellExecOk);
 
-TEST_P(ShellExecMissingTest, ReportsWhatIsMissing) {
-    WriteRecorder("game", "report");
+        const std::optional<LaunchRecord> record = helper->WaitForRecord();
+        ASSERT_TRUE(record.has_value());
+        EXPECT_EQ(record->arguments, (std::vector<std::string>{program, "-scenario", "a b.sve", "-log"}));
+        EXPECT_EQ(record->directory, fs::canonical(folder));
+        fs::remove(wine.Path());
+    }
+}
+
+TEST_F(PosixPlatformTest, DocumentsFoldersAndAddressesGoToTheDesktopHandler) {
+    const StandInGame handler(m_dir.Path() / "bin", "xdg-open");
+    m_environment.Set("PATH", m_dir.File("bin"));
+    const std::string work = MakeFolder("doc");
+    const std::string document = m_dir.Write("doc/FAQ_EN.txt", "faq");
+    const std::string folder = MakeFolder("game folder.exe");
+    // What is opened, and what the handler is given: addresses untouched, a file by its full path.
+    const std::pair<std::string, std::string> cases[] = {
+        {"FAQ_EN.txt", document},
+        {folder, folder},
+        {"mailto:someone@example.org", "mailto:someone@example.org"},
+        {"https://example.org/update.txt?a=1&b=2", "https://example.org/update.txt?a=1&b=2"},
+        {"HTTP://example.org/", "HTTP://example.org/"},
+    };
+    for (const auto& [target, expected] : cases) {
+        SCOPED_TRACE(target);
+        handler.ForgetRecord();
+        ASSERT_EQ(Open(target, "ignored parameters", work), kShellExecOk);
+        const std::optional<LaunchRecord> record = handler.WaitForRecord();
+        ASSERT_TRUE(record.has_value());
+        EXPECT_EQ(record->arguments, std::vector<std::string>{expected});
+        EXPECT_EQ(record->directory, fs::canonical(work));
+    }
+}
+
+// By name only, the program is looked for in the working directory, not in the current one.
+TEST_F(PosixPlatformTest, OpensAProgramByNameInTheWorkingDirectoryWithTheOpenVerbOnly) {
+    const StandInGame game(m_dir.Path() / "game");
+    const std::pair<std::string, int32_t> cases[] = {{"", kShellExecOk},
+                                                     {"OPEN", kShellExecOk},
+                                                     {"print", kSeErrNoAssociation},
+                                                     {"opened", kSeErrNoAssociation}};
+    for (const auto& [verb, expected] : cases)
+        EXPECT_EQ(Open("tarvolin.exe", "", m_dir.File("game"), verb), expected) << verb;
+}
+
+// Names are relative to the test's folder, the current one.
+TEST_F(PosixPlatformTest, WhatIsMissingDecidesTheCode) {
+    m_dir.Write("game", "#!/bin/sh\n");
     MakeFolder("folder");
-
-    EXPECT_EQ(Open(Inside(GetParam().file), "", Inside(GetParam().directory)), GetParam().expected);
+    // The file, the working directory, and the code; the last three only look like addresses.
+    const std::tuple<std::string, std::string, int32_t> cases[] = {
+        {"absent.exe", "", kSeErrFileNotFound},
+        {"absent.exe", "folder", kSeErrFileNotFound},
+        {"nowhere/absent.exe", "", kSeErrPathNotFound},
+        {"game", "nowhere", kSeErrPathNotFound},
+        {"game", "game", kSeErrPathNotFound},
+        {"game", std::string("folder\0x", 8), kSeErrPathNotFound},
+        {"", "", kSeErrFileNotFound},
+        {std::string("game\0x", 6), "", kSeErrFileNotFound},
+        {"C://Games/tarvolin.exe", "", kSeErrPathNotFound},
+        {"1http://example.org/", "", kSeErrPathNotFound},
+        {"see mailto:someone@example.org", "", kSeErrFileNotFound},
+    };
+    for (const auto& [file, directory, expected] : cases)
+        EXPECT_EQ(Open(file, "", directory), expected) << file << " in " << directory;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Targets, ShellExecMissingTest,
-    ::testing::Values(MissingCase{"File", "absent.exe", "", kSeErrFileNotFound},
-                      MissingCase{"FileInExistingFolder", "folder/absent.exe", "folder", kSeErrFileNotFound},
-                      MissingCase{"FileAndItsFolder", "nowhere/absent.exe", "", kSeErrPathNotFound},
-                      MissingCase{"WorkingDirectory", "game", "nowhere", kSeErrPathNotFound},
-                      MissingCase{"WorkingDirectoryIsAFile", "game", "game", kSeErrPathNotFound},
-                      MissingCase{"WorkingDirectoryWithNul", "game", std::string("folder\0x", 8),
-                                  kSeErrPathNotFound},
-                      MissingCase{"EmptyFile", "", "", kSeErrFileNotFound},
-                      MissingCase{"FileWithNul", std::string("game\0x", 6), "", kSeErrFileNotFound}),
-    CaseName<MissingCase>);
-
-// A fake xdg-open first on PATH records what it was asked to open.
-class ShellExecHandlerTest : public PosixPlatformTest {
-protected:
-    void SetUp() override {
-        PosixPlatformTest::SetUp();
-        WriteRecorder("bin/xdg-open", "report");
-        m_environment.Set("PATH", PathWithFirst(MakeFolder("bin")));
+// Once with a Wine and a desktop handler that cannot run, once with neither on PATH.
+TEST_F(PosixPlatformTest, AFileThatCannotBeStartedGetsTheShellsCode) {
+    const std::string noInterpreter = "#!/nonexistent/interpreter\n";
+    WriteExecutable("broken/wine", noInterpreter);
+    WriteExecutable("broken/xdg-open", noInterpreter);
+    // The start of a 64-bit ELF header: native by its first bytes, but nothing the kernel can load.
+    const std::string elf = std::string("\x7f") + "ELF\x02\x01\x01";
+    const StandInGame standIn(m_dir.Path() / "standin");
+    const std::string game = m_dir.Read("standin/tarvolin.exe");
+    // The file's name, its content, whether it may be executed, and the code; "game" is the real one.
+    const std::tuple<std::string, std::string, bool, int32_t> cases[] = {
+        {"game.exe", "MZ", false, kSeErrNoAssociation},
+        {"game.exe", "garbage", true, kSeErrBadFormat},
+        {"game.exe", "garbage", false, kSeErrBadFormat},
+        {"Game.Exe", "", false, kSeErrBadFormat},
+        {"game.exe", elf, true, kSeErrBadFormat},
+        {"game", "garbage", true, kSeErrBadFormat},
+        {"game.exe", "#!/bin/sh\n", false, kSeErrAccessDenied},
+        {"tarvolin.exe", game, false, kSeErrAccessDenied},
+        {"game.exe", noInterpreter, true, kSeErrFileNotFound},
+        {"game.txt", "#!/bin/sh\n", false, kSeErrNoAssociation},
+    };
+    for (const std::string& path : {m_dir.File("broken"), MakeFolder("empty")}) {
+        m_environment.Set("PATH", path);
+        int index = 0;
+        for (const auto& [file, content, executable, expected] : cases) {
+            const std::string name = std::to_string(++index) + file;
+            EXPECT_EQ(Open(executable ? WriteExecutable(name, content) : m_dir.Write(name, content)),
+                      expected)
+                << name << " with PATH=" << path;
+        }
     }
-};
-
-struct HandlerCase {
-    std::string name;
-    std::string target;
-    bool inside;  // the target is a file or folder in the test's folder
-    friend void PrintTo(const HandlerCase& c, std::ostream* out) { *out << c.name; }
-};
-
-class ShellExecHandlerTargetTest : public ShellExecHandlerTest,
-                                   public ::testing::WithParamInterface<HandlerCase> {};
-
-TEST_P(ShellExecHandlerTargetTest, OpensTheTargetWithTheDesktopHandler) {
-    m_dir.Write("notes.txt", "text");
-    MakeFolder("game folder.exe");
-    const std::string work = MakeFolder("work");
-    const std::string target = GetParam().inside ? m_dir.File(GetParam().target) : GetParam().target;
-
-    ASSERT_EQ(Open(target, "ignored parameters", work), kShellExecOk);
-
-    const std::optional<Report> report = WaitForReport("report");
-    ASSERT_TRUE(report.has_value());
-    EXPECT_EQ(report->arguments, std::vector<std::string>{target});
-    EXPECT_EQ(report->directory, Canonical(work));
-}
-
-INSTANTIATE_TEST_SUITE_P(Targets, ShellExecHandlerTargetTest,
-                         ::testing::Values(HandlerCase{"Document", "notes.txt", true},
-                                           HandlerCase{"FolderNamedLikeAProgram", "game folder.exe", true},
-                                           HandlerCase{"Mail", "mailto:someone@example.org", false},
-                                           HandlerCase{"Web", "https://example.org/update.txt?a=1&b=2",
-                                                       false},
-                                           HandlerCase{"UpperCaseScheme", "HTTP://example.org/", false}),
-                         CaseName<HandlerCase>);
-
-TEST_F(ShellExecHandlerTest, RelativeDocumentReachesTheHandlerWithItsFullPath) {
-    const std::string docs = MakeFolder("doc");
-    m_dir.Write("doc/FAQ_EN.txt", "faq");
-
-    ASSERT_EQ(Open("FAQ_EN.txt", "", docs), kShellExecOk);
-
-    const std::optional<Report> report = WaitForReport("report");
-    ASSERT_TRUE(report.has_value());
-    EXPECT_EQ(report->arguments, std::vector<std::string>{m_dir.File("doc/FAQ_EN.txt")});
-}
-
-TEST_F(ShellExecHandlerTest, TextsThatOnlyLookLikeAddressesAreFiles) {
-    EXPECT_EQ(Open("C://Games/tarvolin.exe"), kSeErrPathNotFound);
-    EXPECT_EQ(Open("1http://example.org/"), kSeErrPathNotFound);
-    EXPECT_EQ(Open("see mailto:someone@example.org"), kSeErrFileNotFound);
-}
-
-TEST_F(ShellExecHandlerTest, AHandlerThatCannotRunMeansNoAssociation) {
-    WriteExecutable("bin/xdg-open", "#!/nonexistent/interpreter\n");
-
-    EXPECT_EQ(Open("mailto:someone@example.org"), kSeErrNoAssociation);
-}
-
-TEST_F(PosixPlatformTest, WithoutAHandlerOnPathDocumentsAndAddressesHaveNoAssociation) {
-    m_environment.Set("PATH", MakeFolder("empty"));
-    m_dir.Write("notes.txt", "text");
-
-    EXPECT_EQ(Open(m_dir.File("notes.txt")), kSeErrNoAssociation);
-    EXPECT_EQ(Open("https://example.org/"), kSeErrNoAssociation);
 }
 
 }  // namespace

@@ -14,11 +14,9 @@ public:
     ScopedEnvironment(const ScopedEnvironment&) = delete;
     ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
 
-    void Set(const std::string& name, const std::string& value);
-    void Unset(const std::string& name);
+    // Nothing for a value unsets the variable.
+    void Set(const std::string& name, const std::optional<std::string>& value);
 
 private:
-    void Remember(const std::string& name);
-
     std::vector<std::pair<std::string, std::optional<std::string>>> m_saved;
 };

@@ -1,3 +1,4 @@
+// Typed settings access: absent against empty arguments, the read buffer, and booleans.
 #include "storage/mIni.h"
 
 #include <gtest/gtest.h>
@@ -13,8 +14,6 @@
 
 namespace {
 
-using std::nullopt;
-
 class mIniTest : public ::testing::Test {
 protected:
     void SetUp() override { iniFile::Store().Clear(); }
@@ -22,60 +21,47 @@ protected:
     std::string file = dir.File("Pavonel.ini");
 };
 
-TEST_F(mIniTest, AbsentArgumentsRaiseInvalidValue) {
-    const mIni::IniArg absent = nullopt;
-    using Call = std::function<void()>;
-    for (const Call& read : {Call([&] { mIni::ReadFromIni(absent, "S", "k", ""); }),
-                             Call([&] { mIni::ReadFromIni(file, absent, "k", ""); }),
-                             Call([&] { mIni::ReadFromIni(file, "S", absent, ""); })}) {
-        std::optional<Failure> failure = FailureOf(read);
+TEST_F(mIniTest, AbsentArgumentsRaiseInvalidValueEmptyOnesDoNot) {
+    const mIni::IniArg absent = std::nullopt;
+    const std::tuple<std::function<void()>, int32_t, std::vector<std::string>> calls[] = {
+        {[&] { mIni::ReadFromIni(absent, "S", "k", ""); }, 2, {"mIni.ReadFromIni"}},
+        {[&] { mIni::ReadFromIni(file, absent, "k", ""); }, 2, {"mIni.ReadFromIni"}},
+        {[&] { mIni::ReadFromIni(file, "S", absent, ""); }, 2, {"mIni.ReadFromIni"}},
+        {[&] { mIni::WriteBoolToIni(file, "S", absent, true); },
+         1,
+         {"mIni.WriteBoolToIni", "mIni.WriteToIni"}}};
+    for (const auto& [call, number, trail] : calls) {
+        std::optional<Failure> failure = FailureOf(call);
         ASSERT_TRUE(failure);
-        EXPECT_EQ(failure->Number(), mError::kObjectError | 2);
+        EXPECT_EQ(failure->Number(), mError::kObjectError | number);
         EXPECT_EQ(failure->Description(), "Invalid value");
-        EXPECT_EQ(TrailOf(*failure), std::vector<std::string>{"mIni.ReadFromIni"});
+        EXPECT_EQ(TrailOf(*failure), trail);
     }
-    std::optional<Failure> write = FailureOf([&] { mIni::WriteBoolToIni(file, "S", absent, true); });
-    ASSERT_TRUE(write);
-    EXPECT_EQ(write->Number(), mError::kObjectError | 1);
-    EXPECT_EQ(TrailOf(*write), (std::vector<std::string>{"mIni.WriteBoolToIni", "mIni.WriteToIni"}));
     EXPECT_FALSE(std::filesystem::exists(file));
-}
-
-TEST_F(mIniTest, EmptyArgumentsAreNotAbsent) {
+    // Empty is not absent.
     EXPECT_EQ(mIni::ReadFromIni("", "", "", "d"), "d");
     mIni::WriteToIni(file, "", "", "v");
     EXPECT_EQ(mIni::ReadFromIni(file, "", "", "d"), "v");
 }
 
-TEST_F(mIniTest, ValuesComeBackWithAtMost254Characters) {
-    mIni::WriteToIni(file, "S", "k", std::string(300, 'a'));
-    EXPECT_EQ(mIni::ReadFromIni(file, "S", "k", ""), std::string(254, 'a'));
+// A read gives at most 254 characters and stops at a NUL; only "1" reads as true, and an empty or missing
+// value gives the default.
+TEST_F(mIniTest, ReadsAsThroughTheProgramsBuffer) {
+    using namespace std::string_literals;
+    dir.Write("Pavonel.ini", "[S]\nlong=" + std::string(300, 'a') +
+                                 "\nnul=ab\0cd\none=1\nspaced=\" 1 \"\nword=true\nminus=-1\nzero=0\nyes=yes\n"
+                                 "two=\" 2\"\nempty=\n"s);
+    EXPECT_EQ(mIni::ReadFromIni(file, "S", "long", ""), std::string(254, 'a'));
     EXPECT_EQ(mIni::ReadFromIni(file, "S", "missing", std::string(300, 'd')), std::string(254, 'd'));
-}
-
-TEST_F(mIniTest, ValueIsCutAtNul) {
-    dir.Write("Pavonel.ini", std::string("[S]\nk=ab\0cd\n", 13));
-    EXPECT_EQ(mIni::ReadFromIni(file, "S", "k", ""), "ab");
-}
-
-TEST_F(mIniTest, OnlyOneReadsAsTrue) {
-    dir.Write("Pavonel.ini",
-              "[S]\none=1\nspaced=\" 1 \"\nword=true\nminus=-1\nzero=0\nyes=yes\ntwo=\" 2\"\nempty=\n");
-    EXPECT_TRUE(mIni::ReadBoolFromIni(file, "S", "one", false));
-    EXPECT_TRUE(mIni::ReadBoolFromIni(file, "S", "spaced", false));
-    for (const char* key : {"word", "minus", "zero", "yes", "two"}) {
+    EXPECT_EQ(mIni::ReadFromIni(file, "S", "nul", ""), "ab");
+    for (const char* key : {"one", "spaced"})
+        EXPECT_TRUE(mIni::ReadBoolFromIni(file, "S", key, false)) << key;
+    for (const char* key : {"word", "minus", "zero", "yes", "two"})
         EXPECT_FALSE(mIni::ReadBoolFromIni(file, "S", key, true)) << key;
-    }
     for (bool fallback : {true, false}) {
         EXPECT_EQ(mIni::ReadBoolFromIni(file, "S", "empty", fallback), fallback);
         EXPECT_EQ(mIni::ReadBoolFromIni(file, "S", "missing", fallback), fallback);
     }
-}
-
-TEST_F(mIniTest, BooleansAreWrittenAsOneAndZero) {
-    mIni::WriteBoolToIni(file, "S", "t", true);
-    mIni::WriteBoolToIni(file, "S", "f", false);
-    EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\r\nt=1\r\nf=0\r\n");
 }
 
 }  // namespace

@@ -1,0 +1,150 @@
+// The rules a settings file written by hand or by another tool is read with, and what a write does to the
+// bytes of the file: only the line it must, everything else as it was.
+#include "storage/iniFile.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "storage/IniStore.h"
+#include "support/TempDir.h"
+
+namespace {
+
+using std::nullopt;
+
+class IniFileTest : public ::testing::Test {
+protected:
+    void SetUp() override { iniFile::Store().Clear(); }
+    TempDir dir;
+    std::string file = dir.File("test.ini");
+};
+
+struct ReadCase {
+    const char* name;
+    std::string content;
+    std::string section;
+    std::string key;
+    std::string defaultValue;
+    std::size_t size;
+    std::string expected;
+};
+
+class IniRead : public IniFileTest, public ::testing::WithParamInterface<ReadCase> {};
+
+TEST_P(IniRead, FindsTheValueAWindowsReaderWould) {
+    const ReadCase& c = GetParam();
+    dir.Write("test.ini", c.content);
+    EXPECT_EQ(iniFile::Read(file, c.section, c.key, c.defaultValue, c.size), c.expected);
+}
+
+const std::string kS = "[S]\r\n";
+
+const ReadCase kReadCases[] = {
+    {"NamesIgnoreCase", "[Sect]\r\nKey=v\r\n", "sECT", "kEY", "d", 255, "v"},
+    {"MixedEndingsAndNoFinalBreak", "[A]\r\na=1\n[S]\rj=0\r\nk=v", "S", "k", "d", 255, "v"},
+    {"HeaderWithBlanks", " \t[ \tS \t] \r\nk=v\r\n", "S", "k", "d", 255, "v"},
+    {"TextAfterHeaderIgnored", "[S] ; the game\r\nk=v\r\n", "S", "k", "d", 255, "v"},
+    {"HeaderWithoutBracket", "[S\r\nk=v\r\n", "S", "k", "d", 255, "v"},
+    {"BlanksAndTabsAroundKeyAndValue", kS + " \t k \t= \t v w \t\r\n", "S", "k", "d", 255, "v w"},
+    {"DoubleQuotesRemoved", kS + "k=\" v \"\r\n", "S", "k", "d", 255, " v "},
+    {"SingleQuotesRemoved", kS + "k='v'\r\n", "S", "k", "d", 255, "v"},
+    {"OnlyOnePairRemoved", kS + "k=\"\"v\"\"\r\n", "S", "k", "d", 255, "\"v\""},
+    {"MismatchedQuotesStay", kS + "k=\"v'\r\n", "S", "k", "d", 255, "\"v'"},
+    {"LoneQuoteStays", kS + "k=\"\r\n", "S", "k", "d", 255, "\""},
+    {"QuotedEmptyIsEmpty", kS + "k=\"\"\r\n", "S", "k", "d", 255, ""},
+    {"SplitAtFirstEquals", kS + "k=a=b\r\n", "S", "k", "d", 255, "a=b"},
+    {"CommentLineIsNoKey", kS + " ;k=v\r\n", "S", ";k", "d", 255, "d"},
+    {"HashIsOrdinary", kS + "#k=v\r\n", "S", "#k", "d", 255, "v"},
+    {"TrailingCommentBelongsToValue", kS + "k=v ;c\r\n", "S", "k", "d", 255, "v ;c"},
+    {"LineWithoutEqualsIsNoKey", kS + "k\r\nk v\r\n", "S", "k", "d", 255, "d"},
+    {"EmptyValueIsNotDefault", kS + "k=\r\n", "S", "k", "d", 255, ""},
+    {"FirstSectionWins", "[S]\r\na=1\r\n[s]\r\na=2\r\nb=3\r\n", "S", "a", "d", 255, "1"},
+    {"LaterSectionOfSameNameUnseen", "[S]\r\na=1\r\n[s]\r\nb=3\r\n", "S", "b", "d", 255, "d"},
+    {"FirstKeyWins", kS + "a=1\r\nA=2\r\n", "S", "a", "d", 255, "1"},
+    {"KeysBeforeFirstSectionUnreadable", "k=v\r\n[S]\r\n", "S", "k", "d", 255, "d"},
+    {"CallerSpacesIgnored", kS + "k=v\r\n", "  S ", " k  ", "d", 255, "v"},
+    {"CallerTabsCount", kS + "k=v\r\n", "\tS", "k", "d", 255, "d"},
+    {"DefaultLosesTrailingSpacesOnly", kS, "S", "k", "  d  ", 255, "  d"},
+    {"ValueCutToSizeMinusOne", kS + "k=abcdef\r\n", "S", "k", "d", 4, "abc"},
+    {"DefaultCutToSizeMinusOne", kS, "S", "k", "defaults", 5, "defa"},
+    {"SizeZeroGivesNothing", kS + "k=v\r\n", "S", "k", "d", 0, ""},
+    {"Utf8ByteOrderMarkSkipped", "\xEF\xBB\xBF[S]\r\nk=v\r\n", "S", "k", "d", 255, "v"},
+    {"Utf16LeReadAsNarrow", std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\x3D\xD8\x00\xDE", 22), "S",
+     "k", "d", 255, "\xC3\xA4\xF0\x9F\x98\x80"},
+    {"NulBytesPassThrough", std::string("[S]\r\nk=a\0b\r\n", 12), "S", "k", "d", 255,
+     std::string("a\0b", 3)}};
+
+INSTANTIATE_TEST_SUITE_P(Rules, IniRead, ::testing::ValuesIn(kReadCases),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+struct WriteCase {
+    const char* name;
+    std::optional<std::string> before;  // nothing: the file does not exist
+    std::string section;
+    std::optional<std::string_view> key;
+    std::optional<std::string_view> value;
+    std::optional<std::string> after;  // nothing: the file still does not exist
+};
+
+class IniWrite : public IniFileTest, public ::testing::WithParamInterface<WriteCase> {};
+
+TEST_P(IniWrite, ChangesOnlyWhatItMust) {
+    const WriteCase& c = GetParam();
+    if (c.before)
+        dir.Write("test.ini", *c.before);
+    // Read first, so the write goes through a parsed copy like it does in the program.
+    iniFile::Read(file, c.section, "x", "", 255);
+    iniFile::Write(file, c.section, c.key, c.value);
+    EXPECT_EQ(std::filesystem::exists(file) ? std::optional(dir.Read("test.ini")) : nullopt, c.after);
+}
+
+const WriteCase kWriteCases[] = {
+    {"CreatesMissingFileWithoutCallerSpaces", nullopt, " S ", " k ", " v ", "[S]\r\nk= v \r\n"},
+    {"NewSectionGoesToTheEnd", "[A]\r\nx=1\r\n\r\n", "S", "k", "v", "[A]\r\nx=1\r\n\r\n[S]\r\nk=v\r\n"},
+    {"LineBreakAddedBeforeNewSection", "[A]\nx=1", "S", "k", "v", "[A]\nx=1\r\n[S]\r\nk=v\r\n"},
+    {"NewKeyAfterLastKeyLine", "[S]\r\na=1\r\n\r\n; note\r\n[T]\r\n", "s", "b", "2",
+     "[S]\r\na=1\r\nb=2\r\n\r\n; note\r\n[T]\r\n"},
+    {"NewKeyRightAfterHeaderWhenNoKeys", "[S]\n; note\n[T]\n", "S", "b", "2", "[S]\nb=2\r\n; note\n[T]\n"},
+    {"NewKeyAfterHeaderAtEndOfFile", "[S]", "S", "k", "v", "[S]\r\nk=v\r\n"},
+    {"NewKeyAfterLastLineWithoutBreak", "[S]\na=1", "S", "k", "v", "[S]\na=1\r\nk=v\r\n"},
+    {"ExistingKeyKeepsFileSpelling", "[Sec]\n  Key \t= old \nz=9\n", "SEC", "KEY", "new",
+     "[Sec]\nKey=new\r\nz=9\n"},
+    {"OnlyFirstKeyChanged", "[S]\r\nk=1\r\nk=2\r\n", "S", "k", "3", "[S]\r\nk=3\r\nk=2\r\n"},
+    {"OnlyFirstSectionChanged", "[S]\r\n[S]\r\nk=2\r\n", "S", "k", "3", "[S]\r\nk=3\r\n[S]\r\nk=2\r\n"},
+    {"ValueWrittenExactly", "[S]\r\n", "S", "k", "\"q\" ;x", "[S]\r\nk=\"q\" ;x\r\n"},
+    {"SameValueLeavesFileAlone", "[S]\nk=v\n", "S", "k", "v", "[S]\nk=v\n"},
+    {"KeysBeforeFirstSectionUntouched", "k=1\r\n", "S", "k", "2", "k=1\r\n[S]\r\nk=2\r\n"},
+    {"DeleteKey", "[S]\na=1\nb=2\n", "S", "A", nullopt, "[S]\nb=2\n"},
+    {"DeleteMissingKeyChangesNothing", "[S]\na=1", "S", "b", nullopt, "[S]\na=1"},
+    {"DeleteSectionWithItsLines", "[A]\nx=1\n[S]\na=1\n; c\n\n[B]\ny=2\n", "s", nullopt, nullopt,
+     "[A]\nx=1\n[B]\ny=2\n"},
+    {"DeleteFirstOfTwoSections", "[S]\na=1\n[S]\na=2\n", "S", nullopt, nullopt, "[S]\na=2\n"},
+    {"DeleteOnMissingFileCreatesNothing", nullopt, "S", "k", nullopt, nullopt},
+    {"DeleteSectionOnMissingFileCreatesNothing", nullopt, "S", nullopt, "v", nullopt},
+    {"Utf8ByteOrderMarkKept", "\xEF\xBB\xBF[S]\nk=1\n", "S", "k", "2", "\xEF\xBB\xBF[S]\nk=2\r\n"},
+    {"Utf16LeWrittenBackAsUtf16Le", std::string("\xFF\xFE[\0S\0]\0", 8), "S", "k", "\xC3\xA4",
+     std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n\0", 22)}};
+
+INSTANTIATE_TEST_SUITE_P(Rules, IniWrite, ::testing::ValuesIn(kWriteCases),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// The parsed copy follows every write, also one whose value holds line breaks and so becomes new lines.
+TEST_F(IniFileTest, ReadsBackWhatWasWritten) {
+    iniFile::Write(file, "S", "k", " quoted ");
+    iniFile::Write(file, "S", "e", "");
+    EXPECT_EQ(iniFile::Read(file, "S", "k", "d", 255) + "|" + iniFile::Read(file, "s", "E", "d", 255),
+              "quoted|");
+    iniFile::Write(file, "S", "k", nullopt);
+    EXPECT_EQ(iniFile::Read(file, "S", "k", "d", 255), "d");
+    iniFile::Write(file, "S", nullopt, nullopt);
+    EXPECT_EQ(iniFile::Read(file, "S", "e", "d", 255), "d");
+    iniFile::Write(file, "S", "k", "first\r\n[T]\r\nk=second");
+    EXPECT_EQ(dir.Read("test.ini"), "[S]\r\nk=first\r\n[T]\r\nk=second\r\n");
+    EXPECT_EQ(iniFile::Read(file, "S", "k", "d", 255) + "|" + iniFile::Read(file, "T", "k", "d", 255),
+              "first|second");
+}
+
+}  // namespace
