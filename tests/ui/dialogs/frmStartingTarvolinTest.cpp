@@ -12,20 +12,17 @@
 
 namespace {
 
+template <class T = QPushButton>
+T* Find(const QDialog& window, const char* name) {
+    return window.findChild<T*>(name);
+}
+
 class frmStartingTarvolinTest : public UiFixture {
 protected:
     frmStartingTarvolinTest() {
         profile.SetUsePreDefinedResolution(false);
         profile.SetResolutionWidth(1024);
         profile.SetResolutionHeight(768);
-        profile.SetScenarioPath("demo.sve");
-    }
-
-    template <class T>
-    static T* Find(const QDialog& window, const char* name) {
-        T* widget = window.findChild<T*>(name);
-        EXPECT_NE(widget, nullptr) << name;
-        return widget;
     }
 
     Options& options() { return g_cApp->Options(); }
@@ -33,97 +30,57 @@ protected:
     Profile profile;
 };
 
-TEST_F(frmStartingTarvolinTest, ShowsTheProfilesCommandLine) {
-    frmStartingTarvolin dialog;
-    dialog.InitDialog(profile);
-    auto* info = Find<QLabel>(dialog, "lblInfo");
-    EXPECT_EQ(info->text(), QtText::ToQt(profile.GetCmdLineParameters()));
-    EXPECT_TRUE(info->text().startsWith("-log -screensize 1024x768"));
-    EXPECT_TRUE(info->textInteractionFlags() & Qt::TextSelectableByMouse);
-    EXPECT_TRUE(dialog.Cancel());
+TEST_F(frmStartingTarvolinTest, TextsComeFromTheDialogsSectionAndGlobal) {
+    g_cApp->Options().SetLanguage("DE");
+    frmStartingTarvolin german;
+    german.InitDialog(profile);
+    EXPECT_EQ(german.windowTitle(), "Tarvolin starten");
+    EXPECT_EQ(Find<QLabel>(german, "lblCaption")->text(), "Tarvolin wird mit dieser Befehlszeile gestartet:");
+    EXPECT_TRUE(Find<QLabel>(german, "lblWarning")->text().startsWith("Bitte achten Sie darauf"));
+    EXPECT_EQ(Find<QCheckBox>(german, "ckDontShowThisDialogAgain")->text(),
+              "&Dieses Fenster nicht mehr anzeigen");
+    EXPECT_EQ(Find(german, "cmdOk")->text(), "OK");
+    EXPECT_EQ(Find(german, "cmdCancel")->text(), "Abbrechen");
 }
 
-struct LanguageCase {
-    const char* abbrev;
-    const char* caption;
-    const char* info;
-    const char* checkBox;
-    const char* cancel;
-};
+// The option as it was and the check box as the user sets it.
+class StartWindowAnswers : public frmStartingTarvolinTest,
+                           public ::testing::WithParamInterface<std::tuple<bool, bool>> {};
 
-class StartDialogTexts : public frmStartingTarvolinTest,
-                         public ::testing::WithParamInterface<LanguageCase> {};
-
-TEST_P(StartDialogTexts, ComeFromTheDialogsSectionAndGlobal) {
-    UseLanguage(GetParam().abbrev);
-    frmStartingTarvolin dialog;
-    dialog.InitDialog(profile);
-    EXPECT_EQ(dialog.windowTitle(), QString::fromUtf8(GetParam().caption));
-    EXPECT_EQ(Find<QLabel>(dialog, "lblCaption")->text(), QString::fromUtf8(GetParam().info));
-    EXPECT_EQ(QtText::ToQt(dialog.TranslateDialogItem("LBL_WARNING")),
-              Find<QLabel>(dialog, "lblWarning")->text());
-    EXPECT_EQ(Find<QCheckBox>(dialog, "ckDontShowThisDialogAgain")->text(),
-              QString::fromUtf8(GetParam().checkBox));
-    EXPECT_EQ(Find<QPushButton>(dialog, "cmdOk")->text(), "OK");
-    EXPECT_EQ(Find<QPushButton>(dialog, "cmdCancel")->text(), QString::fromUtf8(GetParam().cancel));
+// OK stores the check box in the option whatever it was; Cancel, by button or by Escape, leaves it alone.
+TEST_P(StartWindowAnswers, OkStoresTheCheckBoxAndCancelLeavesTheOption) {
+    const auto [optionBefore, boxChecked] = GetParam();
+    options().SetShowStartTarvolinDialog(optionBefore);
+    const bool changedBefore = options().DataChanged();
+    for (const char* answer : {"Escape", "cmdCancel", "cmdOk"}) {
+        frmStartingTarvolin dialog;
+        dialog.InitDialog(profile);
+        dialog.show();
+        Find<QCheckBox>(dialog, "ckDontShowThisDialogAgain")->setChecked(boxChecked);
+        if (answer == std::string("Escape"))
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        else
+            QTest::mouseClick(Find(dialog, answer), Qt::LeftButton);
+        EXPECT_FALSE(dialog.isVisible()) << answer;
+        EXPECT_EQ(dialog.Cancel(), answer != std::string("cmdOk")) << answer;
+        if (dialog.Cancel()) {
+            EXPECT_EQ(options().ShowStartTarvolinDialog(), optionBefore) << answer;
+            EXPECT_EQ(options().DataChanged(), changedBefore) << answer;
+        }
+    }
+    EXPECT_EQ(options().ShowStartTarvolinDialog(), !boxChecked);
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, StartDialogTexts,
-                         ::testing::Values(LanguageCase{"EN", "Start Tarvolin",
-                                                        "Tarvolin will be started with this command line:",
-                                                        "&Don't show this window again", "Cancel"},
-                                           LanguageCase{"DE", "Tarvolin starten",
-                                                        "Tarvolin wird mit dieser Befehlszeile gestartet:",
-                                                        "&Dieses Fenster nicht mehr anzeigen", "Abbrechen"}));
+INSTANTIATE_TEST_SUITE_P(OptionAndCheckBox, StartWindowAnswers,
+                         ::testing::Combine(::testing::Bool(), ::testing::Bool()));
 
-struct OkCase {
-    bool optionBefore;
-    bool boxChecked;
-    bool optionAfter;
-};
-
-class StartDialogOk : public frmStartingTarvolinTest, public ::testing::WithParamInterface<OkCase> {};
-
-TEST_P(StartDialogOk, StoresTheCheckBoxInTheOption) {
-    options().SetShowStartTarvolinDialog(GetParam().optionBefore);
-    frmStartingTarvolin dialog;
-    dialog.InitDialog(profile);
-    Find<QCheckBox>(dialog, "ckDontShowThisDialogAgain")->setChecked(GetParam().boxChecked);
-    QTest::mouseClick(Find<QPushButton>(dialog, "cmdOk"), Qt::LeftButton);
-    EXPECT_EQ(options().ShowStartTarvolinDialog(), GetParam().optionAfter);
-    EXPECT_FALSE(dialog.Cancel());
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
-}
-
-INSTANTIATE_TEST_SUITE_P(CheckBox, StartDialogOk,
-                         ::testing::Values(OkCase{true, true, false}, OkCase{true, false, true},
-                                           OkCase{false, false, true}, OkCase{false, true, false}));
-
-class StartDialogCancel : public frmStartingTarvolinTest, public ::testing::WithParamInterface<bool> {};
-
-TEST_P(StartDialogCancel, LeavesTheOptionWhateverTheBoxSays) {
-    const bool byEscape = GetParam();
-    frmStartingTarvolin dialog;
-    dialog.InitDialog(profile);
-    dialog.show();
-    Find<QCheckBox>(dialog, "ckDontShowThisDialogAgain")->setChecked(true);
-    if (byEscape)
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    else
-        QTest::mouseClick(Find<QPushButton>(dialog, "cmdCancel"), Qt::LeftButton);
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_TRUE(dialog.Cancel());
-    EXPECT_TRUE(options().ShowStartTarvolinDialog());
-    EXPECT_FALSE(options().DataChanged());
-}
-
-INSTANTIATE_TEST_SUITE_P(ButtonOrEscape, StartDialogCancel, ::testing::Bool());
-
+// The window shows the profile's command line; a window closed without OK stops the start.
 TEST_F(frmStartingTarvolinTest, QtUserInterfaceReportsWhetherTheStartMayGoAhead) {
     const char* pressed = "cmdOk";
-    qtUi.answer = [&](QDialog& dialog) {
-        EXPECT_EQ(Find<QLabel>(dialog, "lblInfo")->text(), QtText::ToQt(profile.GetCmdLineParameters()));
-        Find<QPushButton>(dialog, pressed)->click();
+    qtUi.answer = [&](QDialog& shown) {
+        EXPECT_EQ(Find<QLabel>(shown, "lblInfo")->text(), QtText::ToQt(profile.GetCmdLineParameters()));
+        EXPECT_TRUE(Find<QLabel>(shown, "lblInfo")->text().startsWith("-log -screensize 1024x768"));
+        Find(shown, pressed)->click();
     };
     EXPECT_TRUE(Ui().ShowStartTarvolinDialog(profile));
     pressed = "cmdCancel";

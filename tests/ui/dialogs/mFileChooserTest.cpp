@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 
@@ -10,184 +9,123 @@
 
 namespace {
 
-// The chooser's accept is protected; a click on its Open button reaches it the same way.
-void Accept(QDialog& chooser) {
-    chooser.accept();
+// A description that already ends in its patterns keeps its text; an empty description or pattern ends the
+// list, and a description without a pattern is dropped.
+TEST(mFileChooser, FiltersBecomeQtNameFilters) {
+    const std::pair<const char*, QStringList> cases[] = {
+        {"Programs (*.exe)|*.exe|", {"Programs (*.exe)"}},
+        {"Programs|*.exe|All files|*.*", {"Programs (*.exe)", "All files (*.*)"}},
+        {"Images|*.png;*.bmp", {"Images (*.png *.bmp)"}},
+        {"Paks|*.pak|Scenarios", {"Paks (*.pak)"}},
+        {"Paks|*.pak||*.x|Other|*.o", {"Paks (*.pak)"}},
+        {"Paks||Other|*.o", {}}};
+    for (const auto& [filter, expected] : cases)
+        EXPECT_EQ(mFileChooser::NameFilters(filter), expected) << filter;
 }
 
-struct FilterCase {
-    const char* name;
-    const char* filter;
-    QStringList expected;
-};
-
-class NameFilters : public ::testing::TestWithParam<FilterCase> {};
-
-TEST_P(NameFilters, BecomeQtNameFilters) {
-    EXPECT_EQ(mFileChooser::NameFilters(GetParam().filter), GetParam().expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Filters, NameFilters,
-    ::testing::Values(
-        FilterCase{"DescriptionWithItsPattern", "Programs (*.exe)|*.exe", {"Programs (*.exe)"}},
-        FilterCase{
-            "PlainDescriptions", "Programs|*.exe|All files|*.*", {"Programs (*.exe)", "All files (*.*)"}},
-        FilterCase{"SeveralPatterns", "Images|*.png;*.bmp", {"Images (*.png *.bmp)"}},
-        FilterCase{"Empty", "", {}}, FilterCase{"DescriptionOnly", "Programs", {}},
-        FilterCase{"UnpairedDescriptionIsDropped", "Paks|*.pak|Scenarios", {"Paks (*.pak)"}},
-        FilterCase{"EmptyDescriptionEndsTheList", "Paks|*.pak||*.x|Other|*.o", {"Paks (*.pak)"}},
-        FilterCase{"EmptyPatternEndsTheList", "Paks||Other|*.o", {}},
-        FilterCase{"TrailingSeparator", "Paks (*.pak)|*.pak|", {"Paks (*.pak)"}}),
-    [](const ::testing::TestParamInfo<FilterCase>& info) { return info.param.name; });
-
+// A folder with the game and two paks, and the game chooser's options. The chooser's accept is protected,
+// so answers call it through QDialog, as its Open button does.
 class FileChooserTest : public UiFixture {
 protected:
     FileChooserTest() {
-        std::filesystem::create_directory(dir.Path() / "game");
-        dir.Write("game/tarvolin.exe", "MZ");
-        dir.Write("game/pak64.pak", "");
-        dir.Write("game/pak128.pak", "");
-        std::filesystem::create_directory(dir.Path() / "start");
+        std::filesystem::create_directories(dir.Path() / "game");
+        std::filesystem::create_directories(dir.Path() / "start");
+        for (const char* file : {"game/tarvolin.exe", "game/pak64.pak", "game/pak128.pak"})
+            dir.Write(file, "MZ");
+        options.fileName = dir.File("game/tarvolin.exe");
+        options.fileMustExist = true;
+        options.filter = "Programs (*.exe)|*.exe|All files|*";
+        options.filterIndex = 2;
+        options.title = "Select Tarvolin";
+        options.defaultExtension = ".exe";
     }
 
-    // Runs the chooser with `options`, lets `answer` act on the dialog, and keeps what the dialog looked
-    // like.
-    OpenFileAnswer Choose(const OpenFileOptions& options, const std::function<void(QFileDialog&)>& answer) {
-        qtUi.answer = [&](QDialog& dialog) {
-            auto& chooser = dynamic_cast<QFileDialog&>(dialog);
-            seen.title = chooser.windowTitle();
-            seen.mode = chooser.fileMode();
-            seen.readOnly = chooser.testOption(QFileDialog::ReadOnly);
-            seen.suffix = chooser.defaultSuffix();
-            seen.filters = chooser.nameFilters();
-            seen.selectedFilter = chooser.selectedNameFilter();
-            seen.directory = chooser.directory().absolutePath();
-            seen.typedName = chooser.findChild<QLineEdit*>("fileNameEdit")->text();
-            answer(chooser);
-        };
-        return Ui().ChooseFileToOpen(options);
+    // Configures `chooser` from the options, lets `act` answer it, and hands back what it answered.
+    OpenFileAnswer Answer(const std::function<void(QDialog&)>& act) {
+        mFileChooser::Configure(chooser, options);
+        act(chooser);
+        return mFileChooser::AnswerOf(chooser, options);
     }
 
     QString Path(const char* name) const { return QString::fromStdString(dir.File(name)); }
 
-    struct Seen {
-        QString title;
-        QFileDialog::FileMode mode = QFileDialog::AnyFile;
-        bool readOnly = false;
-        QString suffix;
-        QStringList filters;
-        QString selectedFilter;
-        QString directory;
-        QString typedName;
-    } seen;
+    OpenFileOptions options;
+    QFileDialog chooser;
 };
 
-OpenFileOptions GameChooser(const std::string& proposal) {
-    OpenFileOptions options;
-    options.fileName = proposal;
-    options.fileMustExist = true;
-    options.hideReadOnly = true;
-    options.filter = "Programs (*.exe)|*.exe|All files|*";
-    options.filterIndex = 2;
-    options.title = "Select Tarvolin";
-    options.defaultExtension = ".exe";
-    return options;
-}
-
+// A proposal with a folder starts there, whatever the initial directory.
 TEST_F(FileChooserTest, ShowsEveryOptionAndAnswersTheChoice) {
-    const OpenFileAnswer answer =
-        Choose(GameChooser(dir.File("game/tarvolin.exe")), [](QFileDialog& chooser) { Accept(chooser); });
-    EXPECT_EQ(seen.title, "Select Tarvolin");
-    EXPECT_EQ(seen.mode, QFileDialog::ExistingFile);
-    EXPECT_FALSE(seen.readOnly);
-    EXPECT_EQ(seen.suffix, "exe");
-    EXPECT_EQ(seen.filters, (QStringList{"Programs (*.exe)", "All files (*)"}));
-    EXPECT_EQ(seen.selectedFilter, "All files (*)");
-    EXPECT_EQ(seen.directory, Path("game"));
-    EXPECT_EQ(seen.typedName, "tarvolin.exe");
+    qtUi.answer = [&](QDialog& dialog) {
+        auto& shown = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(shown.windowTitle(), "Select Tarvolin");
+        EXPECT_EQ(shown.fileMode(), QFileDialog::ExistingFile);
+        EXPECT_EQ(shown.defaultSuffix(), "exe");
+        EXPECT_EQ(shown.nameFilters(), (QStringList{"Programs (*.exe)", "All files (*)"}));
+        EXPECT_EQ(shown.selectedNameFilter(), "All files (*)");
+        ASSERT_EQ(shown.directory().absolutePath(), Path("game"));  // else the chooser refuses the name
+        ASSERT_EQ(shown.findChild<QLineEdit*>("fileNameEdit")->text(), "tarvolin.exe");
+        dialog.accept();
+    };
+    options.initialDirectory = dir.File("start");
+    const OpenFileAnswer answer = Ui().ChooseFileToOpen(options);
+    EXPECT_EQ(qtUi.modalWindows, 1);
     EXPECT_EQ(answer.outcome, OpenFileAnswer::Outcome::kChosen);
     EXPECT_EQ(answer.files, std::vector<std::string>{dir.File("game/tarvolin.exe")});
 }
 
-TEST_F(FileChooserTest, TypedNameGetsTheDefaultExtension) {
-    OpenFileOptions options = GameChooser("");
+TEST_F(FileChooserTest, ANewNameIsTypedInTheInitialDirectoryAndGetsTheDefaultExtension) {
+    options.fileName = "newgame";
     options.fileMustExist = false;
-    options.initialDirectory = dir.File("game");
-    const OpenFileAnswer answer = Choose(options, [](QFileDialog& chooser) {
-        chooser.selectFile("newgame");
-        Accept(chooser);
-    });
-    EXPECT_EQ(seen.mode, QFileDialog::AnyFile);
-    EXPECT_EQ(seen.directory, Path("game"));
-    EXPECT_EQ(answer.files, std::vector<std::string>{dir.File("game/newgame.exe")});
-}
-
-TEST_F(FileChooserTest, ProposalWithoutFolderStartsInTheInitialDirectory) {
-    OpenFileOptions options = GameChooser("tarvolin.exe");
     options.initialDirectory = dir.File("start");
-    Choose(options, [](QFileDialog&) {});
-    EXPECT_EQ(seen.directory, Path("start"));
-    EXPECT_EQ(seen.typedName, "tarvolin.exe");
+    const OpenFileAnswer answer = Answer([](QDialog& shown) { shown.accept(); });
+    EXPECT_EQ(chooser.fileMode(), QFileDialog::AnyFile);
+    EXPECT_EQ(answer.files, std::vector<std::string>{dir.File("start/newgame.exe")});
 }
 
 TEST_F(FileChooserTest, FilterIndexOutOfRangeShowsTheFirstFilter) {
-    for (int32_t index : {0, 3, -1}) {
-        OpenFileOptions options = GameChooser("");
+    for (const int32_t index : {0, 3, -1}) {
         options.filterIndex = index;
-        Choose(options, [](QFileDialog&) {});
-        EXPECT_EQ(seen.selectedFilter, "Programs (*.exe)") << index;
+        mFileChooser::Configure(chooser, options);
+        EXPECT_EQ(chooser.selectedNameFilter(), "Programs (*.exe)") << index;
     }
 }
 
 TEST_F(FileChooserTest, SeveralExistingFilesCanBeChosen) {
-    OpenFileOptions options = GameChooser(dir.File("game/pak64.pak"));
+    options.fileName = dir.File("game/pak64.pak");
     options.multiSelect = true;
-    options.filter = "Paks|*.pak";
-    const OpenFileAnswer answer = Choose(options, [](QFileDialog& chooser) {
-        chooser.findChild<QLineEdit*>("fileNameEdit")->setText("\"pak64.pak\" \"pak128.pak\"");
-        Accept(chooser);
+    const OpenFileAnswer answer = Answer([](QDialog& shown) {
+        shown.findChild<QLineEdit*>("fileNameEdit")->setText("\"pak64.pak\" \"pak128.pak\"");
+        shown.accept();
     });
-    EXPECT_EQ(seen.mode, QFileDialog::ExistingFiles);
+    EXPECT_EQ(chooser.fileMode(), QFileDialog::ExistingFiles);
     EXPECT_EQ(answer.files,
               (std::vector<std::string>{dir.File("game/pak64.pak"), dir.File("game/pak128.pak")}));
 }
 
-TEST_F(FileChooserTest, ReadOnlyProposalIsReportedBack) {
-    OpenFileOptions options = GameChooser(dir.File("game/tarvolin.exe"));
+// Qt's chooser has no read-only box: the proposal is reported back unchanged, on a cancel too.
+TEST_F(FileChooserTest, CancelChoosesNothingAndAReadOnlyProposalIsReportedBack) {
     options.readOnlyChecked = true;
-    options.hideReadOnly = false;
-    const OpenFileAnswer answer = Choose(options, [](QFileDialog& chooser) { Accept(chooser); });
-    EXPECT_TRUE(seen.readOnly);
+    const OpenFileAnswer answer = Answer([](QDialog& shown) { shown.reject(); });
+    EXPECT_TRUE(chooser.testOption(QFileDialog::ReadOnly));
+    EXPECT_EQ(answer.outcome, OpenFileAnswer::Outcome::kCancelled);
+    EXPECT_TRUE(answer.files.empty());
     EXPECT_TRUE(answer.readOnlyChecked);
 }
 
-TEST_F(FileChooserTest, CancelChoosesNothing) {
-    const OpenFileAnswer answer =
-        Choose(GameChooser(dir.File("game/tarvolin.exe")), [](QFileDialog& chooser) { chooser.reject(); });
-    EXPECT_EQ(answer.outcome, OpenFileAnswer::Outcome::kCancelled);
-    EXPECT_TRUE(answer.files.empty());
-}
-
 TEST_F(FileChooserTest, FolderChooserStartsInTheRootAndAnswersTheFolder) {
-    QString shownTitle;
-    QString startedIn;
-    bool dirsOnly = false;
     qtUi.answer = [&](QDialog& dialog) {
-        auto& chooser = dynamic_cast<QFileDialog&>(dialog);
-        shownTitle = chooser.windowTitle();
-        startedIn = chooser.directory().absolutePath();
-        dirsOnly =
-            chooser.fileMode() == QFileDialog::Directory && chooser.testOption(QFileDialog::ShowDirsOnly);
-        chooser.selectFile(Path("game"));
-        Accept(chooser);
+        auto& shown = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(shown.windowTitle(), "Select a Folder");
+        EXPECT_EQ(shown.directory().absolutePath(), Path("start"));
+        EXPECT_TRUE(shown.fileMode() == QFileDialog::Directory &&
+                    shown.testOption(QFileDialog::ShowDirsOnly));
+        shown.selectFile(Path("game"));
+        dialog.accept();
     };
     EXPECT_EQ(Ui().ChooseFolder(-1, "Select a Folder", dir.File("start")), dir.File("game"));
-    EXPECT_EQ(shownTitle, "Select a Folder");
-    EXPECT_EQ(startedIn, Path("start"));
-    EXPECT_TRUE(dirsOnly);
     qtUi.answer = [](QDialog& dialog) { dialog.reject(); };
     EXPECT_EQ(Ui().ChooseFolder(-1, "Select a Folder", dir.File("start")), "");
+    EXPECT_EQ(qtUi.modalWindows, 2);
 }
 
 TEST_F(FileChooserTest, OwnerIsOneOfOurWindowsOrNone) {

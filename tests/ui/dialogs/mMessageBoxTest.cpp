@@ -4,117 +4,83 @@
 
 #include <QPushButton>
 #include <QTest>
-#include <set>
 
+#include "app/Application.h"
+#include "app/PublicObjects.h"
 #include "app/UserInterface.h"
+#include "support/AppFixture.h"
 
 namespace {
 
-using Button = QMessageBox::StandardButton;
+using MB = QMessageBox;
 
 struct StyleCase {
     const char* name;
     int style;
-    std::set<Button> buttons;
-    QMessageBox::Icon icon;
-    Button defaultButton;
+    MB::StandardButtons buttons;
+    MB::Icon icon;
+    MB::StandardButton defaultButton;
     int escapeResult;  // 0: Escape does nothing
+    MB::StandardButton pressed;
+    int pressedResult;
 };
 
-class MessageBoxStyles : public ::testing::TestWithParam<StyleCase> {
-protected:
-    std::unique_ptr<QMessageBox> box = mMessageBox::Create("Save the changes?", GetParam().style, nullptr);
-};
+// Every answer once, most from a button that is not the first of its box.
+const StyleCase kStyles[] = {
+    {"OkOnly", vbOKOnly, MB::Ok, MB::NoIcon, MB::Ok, vbOK, MB::Ok, vbOK},
+    {"OkCancel", vbOKCancel, MB::Ok | MB::Cancel, MB::NoIcon, MB::Ok, vbCancel, MB::Cancel, vbCancel},
+    {"AbortRetryIgnoreExclamation", vbAbortRetryIgnore | vbExclamation, MB::Abort | MB::Retry | MB::Ignore,
+     MB::Warning, MB::Abort, 0, MB::Ignore, vbIgnore},
+    {"AbortRetryIgnoreSecondDefault", vbAbortRetryIgnore | vbDefaultButton2,
+     MB::Abort | MB::Retry | MB::Ignore, MB::NoIcon, MB::Retry, 0, MB::Abort, vbAbort},
+    {"YesNoCancelQuestionThirdDefault", vbYesNoCancel | vbQuestion | vbDefaultButton3,
+     MB::Yes | MB::No | MB::Cancel, MB::Question, MB::Cancel, vbCancel, MB::Yes, vbYes},
+    {"YesNoSecondDefault", vbYesNo | vbDefaultButton2, MB::Yes | MB::No, MB::NoIcon, MB::No, 0, MB::No, vbNo},
+    {"ThirdDefaultOfTwoFallsBackToFirst", vbRetryCancel | vbCritical | vbDefaultButton3,
+     MB::Retry | MB::Cancel, MB::Critical, MB::Retry, vbCancel, MB::Retry, vbRetry},
+    {"UnknownSetShowsOk", 10 | vbInformation, MB::Ok, MB::Information, MB::Ok, vbOK, MB::Ok, vbOK}};
 
-TEST_P(MessageBoxStyles, OfferTheStylesButtonsIconAndDefault) {
-    std::set<Button> shown;
-    for (QAbstractButton* button : box->buttons())
-        shown.insert(box->standardButton(button));
-    EXPECT_EQ(shown, GetParam().buttons);
-    EXPECT_EQ(box->icon(), GetParam().icon);
-    ASSERT_NE(box->defaultButton(), nullptr);
-    EXPECT_EQ(box->standardButton(box->defaultButton()), GetParam().defaultButton);
-    EXPECT_EQ(box->windowTitle(), "Pavonel");
-}
-
-TEST_P(MessageBoxStyles, EscapeAnswersOnlyWhereWindowsLetsIt) {
-    box->show();
-    QTest::keyClick(box.get(), Qt::Key_Escape);
-    if (GetParam().escapeResult == 0) {
-        EXPECT_TRUE(box->isVisible());
-        EXPECT_EQ(box->clickedButton(), nullptr);
-    } else {
-        EXPECT_FALSE(box->isVisible());
-        EXPECT_EQ(mMessageBox::ResultOf(*box), GetParam().escapeResult);
+// The prompt shows as plain lines, whatever it holds.
+TEST(mMessageBox, EachStyleOffersItsButtonsIconAndDefaultAndAnswersAsWindowsDoes) {
+    const char* const prompt = "First <b>line</b>\r\nSecond line";
+    for (const StyleCase& expected : kStyles) {
+        SCOPED_TRACE(expected.name);
+        const std::unique_ptr<QMessageBox> box = mMessageBox::Create(prompt, expected.style, nullptr);
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        EXPECT_EQ(box->text(), "First <b>line</b>\nSecond line");
+        MB::StandardButtons shown;
+        for (QAbstractButton* button : box->buttons())
+            shown |= box->standardButton(button);
+        EXPECT_EQ(shown, expected.buttons);
+        EXPECT_EQ(box->icon(), expected.icon);
+        ASSERT_NE(box->defaultButton(), nullptr);
+        EXPECT_EQ(box->standardButton(box->defaultButton()), expected.defaultButton);
+        EXPECT_EQ(box->windowTitle(), "Pavonel");
+        ASSERT_NE(box->button(expected.pressed), nullptr);
+        box->button(expected.pressed)->click();
+        EXPECT_EQ(mMessageBox::ResultOf(*box), expected.pressedResult);
+        const std::unique_ptr<QMessageBox> escaped = mMessageBox::Create(prompt, expected.style, nullptr);
+        escaped->show();
+        QTest::keyClick(escaped.get(), Qt::Key_Escape);
+        EXPECT_EQ(escaped->isVisible() ? 0 : mMessageBox::ResultOf(*escaped), expected.escapeResult);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Styles, MessageBoxStyles,
-    ::testing::Values(
-        StyleCase{"OkOnly", vbOKOnly, {QMessageBox::Ok}, QMessageBox::NoIcon, QMessageBox::Ok, vbOK},
-        StyleCase{"OkCancel",
-                  vbOKCancel,
-                  {QMessageBox::Ok, QMessageBox::Cancel},
-                  QMessageBox::NoIcon,
-                  QMessageBox::Ok,
-                  vbCancel},
-        StyleCase{"AbortRetryIgnoreExclamation",
-                  vbAbortRetryIgnore | vbExclamation,
-                  {QMessageBox::Abort, QMessageBox::Retry, QMessageBox::Ignore},
-                  QMessageBox::Warning,
-                  QMessageBox::Abort,
-                  0},
-        StyleCase{"WizardNotFoundNamesNoButtonSet",
-                  10,
-                  {QMessageBox::Ok},
-                  QMessageBox::NoIcon,
-                  QMessageBox::Ok,
-                  vbOK},
-        StyleCase{"YesNoCancelThirdDefault",
-                  vbYesNoCancel | vbQuestion | vbDefaultButton3,
-                  {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel},
-                  QMessageBox::Question,
-                  QMessageBox::Cancel,
-                  vbCancel},
-        StyleCase{"YesNoQuestion",
-                  vbYesNo | vbQuestion,
-                  {QMessageBox::Yes, QMessageBox::No},
-                  QMessageBox::Question,
-                  QMessageBox::Yes,
-                  0},
-        StyleCase{"YesNoSecondDefault",
-                  vbYesNo | vbDefaultButton2,
-                  {QMessageBox::Yes, QMessageBox::No},
-                  QMessageBox::NoIcon,
-                  QMessageBox::No,
-                  0},
-        StyleCase{"ThirdDefaultOfTwoFallsBackToFirst",
-                  vbRetryCancel | vbDefaultButton3,
-                  {QMessageBox::Retry, QMessageBox::Cancel},
-                  QMessageBox::NoIcon,
-                  QMessageBox::Retry,
-                  vbCancel},
-        StyleCase{"RetryCancelCritical",
-                  vbRetryCancel | vbCritical,
-                  {QMessageBox::Retry, QMessageBox::Cancel},
-                  QMessageBox::Critical,
-                  QMessageBox::Retry,
-                  vbCancel},
-        StyleCase{
-            "Information", vbInformation, {QMessageBox::Ok}, QMessageBox::Information, QMessageBox::Ok, vbOK},
-        StyleCase{"UnknownSetShowsOk",
-                  6 | vbInformation,
-                  {QMessageBox::Ok},
-                  QMessageBox::Information,
-                  QMessageBox::Ok,
-                  vbOK}),
-    [](const ::testing::TestParamInfo<StyleCase>& info) { return info.param.name; });
+}  // namespace
 
-TEST(mMessageBox, ShowsThePromptAsPlainLines) {
-    auto box = mMessageBox::Create("First <b>line</b>\r\nSecond line", vbOKOnly, nullptr);
-    EXPECT_EQ(box->textFormat(), Qt::PlainText);
-    EXPECT_EQ(box->text(), "First <b>line</b>\nSecond line");
+namespace {
+
+class TranslatedMessageBox : public AppFixture {};
+
+// The buttons the language files name follow the chosen language; the others keep Qt's words.
+TEST_F(TranslatedMessageBox, ButtonsSpeakTheChosenLanguage) {
+    g_cApp->Options().SetLanguage("DE");
+    const auto box = mMessageBox::Create("Frage", vbYesNoCancel, nullptr);
+    EXPECT_EQ(box->button(MB::Yes)->text(), "Ja");
+    EXPECT_EQ(box->button(MB::No)->text(), "Nein");
+    EXPECT_EQ(box->button(MB::Cancel)->text(), "Abbrechen");
+    g_cApp->Options().SetLanguage("EN");
+    EXPECT_EQ(mMessageBox::Create("Question", vbOKOnly, nullptr)->button(MB::Ok)->text(), "OK");
 }
 
 }  // namespace
