@@ -12,3 +12,9 @@ const cTranslate& Translator() {
         mError::RaiseError(mError::kInternalError, "The translation engine does not exist yet");
     return *g_cTranslate;
 }
+
+Application& App() {
+    if (!g_cApp)
+        mError::RaiseError(mError::kInternalError, "The application object does not exist yet");
+    return *g_cApp;
+}

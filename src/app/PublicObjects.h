@@ -11,3 +11,6 @@ extern std::unique_ptr<cTranslate> g_cTranslate;
 
 // The translation engine; raises a failure when there is none yet.
 const cTranslate& Translator();
+
+// The application object; raises a failure when there is none yet.
+Application& App();

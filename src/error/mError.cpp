@@ -39,6 +39,8 @@ std::string RuntimeDescription(int32_t number) {
             return "Path/File access error";
         case kSubscriptOutOfRange:
             return "Subscript out of range";
+        case kObjectVariableNotSet:
+            return "Object variable or With block variable not set";
         case kDuplicateKey:
             return "This key is already associated with an element of this collection";
         default:

@@ -22,6 +22,7 @@ inline constexpr int32_t kInternalError = 51;
 inline constexpr int32_t kFileNotFound = 53;
 inline constexpr int32_t kPathFileAccessError = 75;
 inline constexpr int32_t kSubscriptOutOfRange = 9;
+inline constexpr int32_t kObjectVariableNotSet = 91;
 inline constexpr int32_t kDuplicateKey = 457;
 
 // Numbers the program raises on purpose (combined with kObjectError by RaiseError).

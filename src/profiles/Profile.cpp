@@ -175,7 +175,7 @@ void Profile::TellWhyTheGameDidNotStart(int32_t shellResult) const {
 }
 
 bool Profile::ShowStartTarvolinDialog() try {
-    if (!g_cApp->Options().ShowStartTarvolinDialog())
+    if (!App().Options().ShowStartTarvolinDialog())
         return true;
     return Ui().ShowStartTarvolinDialog(*this);
 } catch (...) {

@@ -129,7 +129,7 @@ Profile* Profiles::ShowAddNewDialog() try {
     }
     Profile& added = *profile;
     Store(added.ProfileName(), std::move(profile));
-    g_cApp->SetActiveProfile(&added);
+    App().SetActiveProfile(&added);
     return &added;
 } catch (...) {
     mError::PassOn("Profiles.ShowAddNewDialog");
@@ -178,7 +178,7 @@ void Profiles::SaveData(const std::string& strProfiles) try {
     if (strProfiles.empty())
         return;
     // One replacement of the file for the whole list; what was saved before a failure is kept.
-    iniFile::Update save(g_cApp->IniPath());
+    iniFile::Update save(App().IniPath());
     for (const std::string& name : mString::Split(strProfiles, ';'))
         Item(name).SaveData();
 } catch (...) {
@@ -186,7 +186,10 @@ void Profiles::SaveData(const std::string& strProfiles) try {
 }
 
 void Profiles::SaveWhichProfileIsActive() try {
-    m_settings.Write_ActiveProfileName(g_cApp->ActiveProfile()->ProfileName());
+    const Profile* active = App().ActiveProfile();
+    if (active == nullptr)
+        mError::RaiseRuntimeError(mError::kObjectVariableNotSet);
+    m_settings.Write_ActiveProfileName(active->ProfileName());
 } catch (...) {
     mError::PassOn("Profiles.SaveWhichProfileIsActive");
 }

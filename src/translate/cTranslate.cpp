@@ -8,12 +8,6 @@
 
 namespace {
 
-const Application& App() {
-    if (!g_cApp)
-        mError::RaiseError(mError::kInternalError, "The application object does not exist yet");
-    return *g_cApp;
-}
-
 void Replace(std::string& text, std::string_view find, std::string_view replacement) {
     std::size_t start = 1;
     mString::ReplaceAll(text, find, replacement, start);

@@ -92,6 +92,8 @@ TEST_F(ProfilesTest, SavesTheListedProfilesInOrderAndStopsAtAnUnknownOne) {
 
 TEST_F(ProfilesTest, RemembersTheActiveProfile) {
     EXPECT_EQ(profiles.ReadFromIni_ActiveProfileName(), "PROFILE_DEFAULT");
+    EXPECT_EQ(FailureOf([&] { profiles.SaveWhichProfileIsActive(); })->Number(),
+              mError::kObjectVariableNotSet);
     Profile& race = g_cApp->Profiles().Add("profile_Race", "profile_Race");
     race.SetProfileName("profile_Race");
     g_cApp->SetActiveProfile(&race);

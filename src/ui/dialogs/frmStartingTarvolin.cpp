@@ -37,12 +37,6 @@ QLabel* CommandLineLabel(QWidget* parent) {
     return label;
 }
 
-Application& App() {
-    if (!g_cApp)
-        mError::RaiseError(mError::kInternalError, "The application object does not exist yet");
-    return *g_cApp;
-}
-
 }  // namespace
 
 frmStartingTarvolin::frmStartingTarvolin(QWidget* parent) : QDialog(parent) {
