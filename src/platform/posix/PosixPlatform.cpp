@@ -1,7 +1,5 @@
 #include "platform/posix/PosixPlatform.h"
 
-#include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <filesystem>
 #include <optional>
@@ -10,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/mString.h"
 #include "platform/WindowsCommandLine.h"
 #include "platform/posix/ProcessLauncher.h"
 #include "platform/posix/RunningMarker.h"
@@ -24,9 +23,7 @@ using platform::ProgramKind;
 namespace {
 
 bool IsOpenVerb(std::string_view verb) {
-    constexpr std::string_view kOpen = "open";
-    return verb.empty() || std::equal(verb.begin(), verb.end(), kOpen.begin(), kOpen.end(),
-                                      [](unsigned char x, char y) { return std::tolower(x) == y; });
+    return verb.empty() || mString::EqualsNoCase(verb, "open");
 }
 
 // The program's own failure, by the codes the Windows shell gives for the same cause.

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "base/mString.h"
 #include "platform/Platform.h"
 
 namespace fs = std::filesystem;
@@ -14,11 +15,6 @@ namespace fs = std::filesystem;
 namespace platform {
 
 namespace {
-
-bool EqualsNoCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
-}
 
 bool IsSchemeChar(unsigned char c) {
     return std::isalnum(c) != 0 || c == '+' || c == '-' || c == '.';
@@ -53,7 +49,7 @@ bool StartsWith(std::string_view text, std::string_view prefix) {
 bool IsAddress(std::string_view file) {
     if (HasNul(file))
         return false;
-    if (EqualsNoCase(file.substr(0, 7), "mailto:"))
+    if (mString::StartsWithNoCase(file, "mailto:"))
         return true;
     const size_t end = file.find("://");
     if (end == std::string_view::npos || end < 2)
@@ -92,7 +88,7 @@ bool IsFolder(const std::string& path) {
 bool HasProgramName(const std::string& path) {
     constexpr std::string_view kSuffix = ".exe";
     return path.size() > kSuffix.size() &&
-           EqualsNoCase(std::string_view(path).substr(path.size() - kSuffix.size()), kSuffix) &&
+           mString::EqualsNoCase(std::string_view(path).substr(path.size() - kSuffix.size()), kSuffix) &&
            IsRegularFile(path);
 }
 
