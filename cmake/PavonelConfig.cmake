@@ -18,6 +18,13 @@ endif()
 
 if(WIN32)
     target_compile_definitions(pavonel_config INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX)
+    # Every executable runs in the UTF-8 code page (Windows 10 1903 and later, and Wine), so the narrow
+    # texts of the "A" functions, the settings and the language files are UTF-8 as on Linux.
+    set(PAVONEL_MANIFEST ${PROJECT_SOURCE_DIR}/src/platform/win32/Utf8CodePage.manifest)
+    configure_file(${PROJECT_SOURCE_DIR}/src/platform/win32/Utf8CodePage.rc.in
+                   ${PROJECT_BINARY_DIR}/generated/Utf8CodePage.rc @ONLY)
+    target_sources(pavonel_config INTERFACE
+        $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${PROJECT_BINARY_DIR}/generated/Utf8CodePage.rc>)
 endif()
 
 if(PAVONEL_SANITIZE)

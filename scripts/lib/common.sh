@@ -35,3 +35,5 @@ pavonel_build() {
 
 PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev fonts-dejavu-core)
 PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format)
+# The Windows build: the compiler, GoogleTest's sources to build for Windows, and Wine to run the tests.
+PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64)

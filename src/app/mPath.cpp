@@ -4,13 +4,14 @@
 #include <system_error>
 
 #include "base/mString.h"
+#include "platform/NativePath.h"
 
 namespace mPath {
 namespace {
 
 std::filesystem::file_status StatusOf(const std::string& path) {
     std::error_code ignored;
-    return std::filesystem::status(std::filesystem::path(path), ignored);
+    return std::filesystem::status(platform::PathOf(path), ignored);
 }
 
 }  // namespace
@@ -20,7 +21,9 @@ char Separator(PathFlavour flavour) {
 }
 
 bool FileExists(const std::string& path) {
-    if (path.empty())
+    // A name that ends in a separator lists a folder's content, never a file; Windows' own checks of such
+    // a path are not all alike.
+    if (path.empty() || path.back() == Separator() || path.back() == '/')
         return false;
     std::filesystem::file_status status = StatusOf(path);
     return std::filesystem::exists(status) && !std::filesystem::is_directory(status);

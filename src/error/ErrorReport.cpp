@@ -7,6 +7,7 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/mMain.h"
+#include "platform/NativePath.h"
 #include "platform/Platform.h"
 
 namespace {
@@ -32,7 +33,7 @@ Context GatherContext() {
 
 std::string CurrentDirectory() {
     std::error_code ignored;
-    return std::filesystem::current_path(ignored).string();
+    return platform::TextOf(std::filesystem::current_path(ignored));
 }
 
 }  // namespace

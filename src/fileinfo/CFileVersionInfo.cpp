@@ -8,6 +8,7 @@
 #include "base/mString.h"
 #include "error/mError.h"
 #include "fileinfo/PeImage.h"
+#include "platform/NativePath.h"
 
 namespace {
 
@@ -27,9 +28,10 @@ std::string UnknownText(uint32_t value) {
 
 std::optional<VersionResource> ReadResource(const std::string& path) {
     std::error_code error;
-    if (path.empty() || !std::filesystem::is_regular_file(path, error))
+    const std::filesystem::path native = platform::PathOf(path);
+    if (path.empty() || !std::filesystem::is_regular_file(native, error))
         return std::nullopt;
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(native, std::ios::binary);
     if (!file)
         return std::nullopt;
     std::optional<std::string> bytes = PeImage(file).VersionResource();

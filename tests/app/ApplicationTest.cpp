@@ -6,26 +6,26 @@
 #include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "support/AppFixture.h"
+#include "support/Portable.h"
 
 namespace {
 
 class ApplicationTest : public AppFixture {};
 
 TEST_F(ApplicationTest, FoldersAndSettingsFileLieInTheProgramFolder) {
-    std::string work = dir.Path().string() + "/";
-    EXPECT_EQ(g_cApp->GetWorkDirectory(), work);
-    EXPECT_EQ(g_cApp->IniPath(), work + "Pavonel.ini");
-    EXPECT_EQ(g_cApp->GetLanguageDirectory(), work + "config/");
-    EXPECT_EQ(g_cApp->GetDocDirectory(), work + "doc/");
-    EXPECT_EQ(g_cApp->GetToolsDirectory(), work + "tools/");
+    EXPECT_EQ(g_cApp->GetWorkDirectory(), dir.File(""));
+    EXPECT_EQ(g_cApp->IniPath(), dir.File("Pavonel.ini"));
+    EXPECT_EQ(g_cApp->GetLanguageDirectory(), dir.File("config/"));
+    EXPECT_EQ(g_cApp->GetDocDirectory(), dir.File("doc/"));
+    EXPECT_EQ(g_cApp->GetToolsDirectory(), dir.File("tools/"));
 }
 
 TEST_F(ApplicationTest, ProgramFolderWithTrailingSeparatorIsNotDoubled) {
-    FakePlatform root("/");
+    FakePlatform root(Native("/"));
     InstallPlatform(&root);
     Application app;
-    EXPECT_EQ(app.GetWorkDirectory(), "/");
-    EXPECT_EQ(app.IniPath(), "/Pavonel.ini");
+    EXPECT_EQ(app.GetWorkDirectory(), Native("/"));
+    EXPECT_EQ(app.IniPath(), Native("/Pavonel.ini"));
     InstallPlatform(&platform);
 }
 

@@ -5,6 +5,7 @@
 #include "error/mError.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
+#include "support/Portable.h"
 
 namespace {
 
@@ -43,16 +44,17 @@ TEST_F(mCommonDialogTest, HandsEveryOptionToTheChooser) {
 }
 
 TEST_F(mCommonDialogTest, ChosenFileBecomesNameAndTitle) {
-    Answer(OpenFileAnswer::Outcome::kChosen, {"/opt/tarvolin/bin/tarvolin.exe"});
-    EXPECT_EQ(mCommonDialog::ShowOpen(options, title, true), "/opt/tarvolin/bin/tarvolin.exe");
-    EXPECT_EQ(options.fileName, "/opt/tarvolin/bin/tarvolin.exe");
+    const std::string chosen = Native("/opt/tarvolin/bin/tarvolin.exe");
+    Answer(OpenFileAnswer::Outcome::kChosen, {chosen});
+    EXPECT_EQ(mCommonDialog::ShowOpen(options, title, true), chosen);
+    EXPECT_EQ(options.fileName, chosen);
     EXPECT_EQ(title, "tarvolin.exe");
 }
 
 TEST_F(mCommonDialogTest, SeveralFilesBecomeFolderAndNulSeparatedNames) {
     options.multiSelect = true;
-    Answer(OpenFileAnswer::Outcome::kChosen, {"/paks/pak64.pak", "/paks/pak128.pak"});
-    const std::string expected = std::string("/paks\0pak64.pak\0pak128.pak", 26);
+    Answer(OpenFileAnswer::Outcome::kChosen, {Native("/paks/pak64.pak"), Native("/paks/pak128.pak")});
+    const std::string expected = Native(std::string("/paks\0pak64.pak\0pak128.pak", 26));
     EXPECT_EQ(mCommonDialog::ShowOpen(options, title, false), expected);
     EXPECT_EQ(title, "pak64.pak");
 }

@@ -11,6 +11,7 @@
 #include "error/mError.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
+#include "support/Portable.h"
 
 namespace {
 
@@ -45,10 +46,10 @@ TEST_F(mMainTest, GamePathChooserProposesAnExistingFileOnly) {
 }
 
 TEST_F(mMainTest, EditorChooserProposesTheSystemsWriteProgram) {
-    platform.windowsDirectory = "/opt/windows";
-    EXPECT_EQ(mMain::AskForEditorPath(""), "/opt/windows/write.exe");
-    platform.windowsDirectory = "/opt/windows/";
-    EXPECT_EQ(mMain::AskForEditorPath(dir.File("missing")), "/opt/windows/write.exe");
+    platform.windowsDirectory = Native("/opt/windows");
+    EXPECT_EQ(mMain::AskForEditorPath(""), Native("/opt/windows/write.exe"));
+    platform.windowsDirectory = Native("/opt/windows/");
+    EXPECT_EQ(mMain::AskForEditorPath(dir.File("missing")), Native("/opt/windows/write.exe"));
     g_cApp->Options().SetLanguage("DE");
     mMain::AskForEditorPath("");
     EXPECT_EQ(ui.fileRequests.back().filter, "Programme (*.exe)|*.exe");

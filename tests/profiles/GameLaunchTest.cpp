@@ -5,8 +5,10 @@
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
+#include "platform/NativePath.h"
 #include "profiles/Profile.h"
 #include "support/AppFixture.h"
+#include "support/Portable.h"
 #include "support/StandInGame.h"
 
 namespace {
@@ -21,7 +23,9 @@ protected:
 };
 
 TEST_F(GameLaunchTest, TheGameReceivesTheProfilesArgumentsInItsOwnFolder) {
-    const StandInGame game(dir.Path() / "Spiele mit Leerzeichen" / "Tarvolin Größe");
+    const std::filesystem::path folder =
+        dir.Path() / platform::PathOf("Spiele mit Leerzeichen") / platform::PathOf("Tarvolin Größe");
+    const StandInGame game(folder);
     Profile profile;
     profile.SetTarvolinPath(game.Path());
     profile.SetFreeplay(true);
@@ -30,7 +34,7 @@ TEST_F(GameLaunchTest, TheGameReceivesTheProfilesArgumentsInItsOwnFolder) {
     profile.StartTarvolin(0);
     const auto record = game.WaitForRecord();
     ASSERT_TRUE(record);
-    EXPECT_EQ(record->directory, (dir.Path() / "Spiele mit Leerzeichen" / "Tarvolin Größe").string());
+    EXPECT_EQ(record->directory, platform::TextOf(folder));
     EXPECT_EQ(record->arguments,
               (std::vector<std::string>{"-log", "-res", "2", "-freeplay", "-refresh", "1", "-scenario",
                                         "scenarios/Lange", "Fahrt.sve-graphicpack", "pak128"}));
@@ -39,7 +43,7 @@ TEST_F(GameLaunchTest, TheGameReceivesTheProfilesArgumentsInItsOwnFolder) {
 
 TEST_F(GameLaunchTest, AMissingOrBrokenGameIsExplainedAndNothingStarts) {
     Profile profile;
-    profile.SetTarvolinPath((dir.Path() / "nirgends" / "tarvolin.exe").string());
+    profile.SetTarvolinPath(dir.File("verschollen/tarvolin.exe"));
     profile.StartTarvolin(0);
     const std::string broken = dir.Write("tarvolin.exe", "neither a program nor a Windows file");
     Profile brokenProfile;
@@ -49,7 +53,7 @@ TEST_F(GameLaunchTest, AMissingOrBrokenGameIsExplainedAndNothingStarts) {
     EXPECT_EQ(ui.messages[0].prompt.rfind(
                   "Tarvolin could not be started because its program file was not found.", 0),
               0u);
-    EXPECT_NE(ui.messages[0].prompt.find("nirgends/tarvolin.exe"), std::string::npos);
+    EXPECT_NE(ui.messages[0].prompt.find(Native("verschollen/tarvolin.exe")), std::string::npos);
     EXPECT_EQ(ui.messages[1].prompt.rfind("The chosen file cannot be started as a program.", 0), 0u);
     EXPECT_FALSE(g_cApp->Profiles().DataChanged());
 }

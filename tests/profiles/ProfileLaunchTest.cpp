@@ -4,6 +4,7 @@
 #include "app/PublicObjects.h"
 #include "profiles/Profile.h"
 #include "support/AppFixture.h"
+#include "support/Portable.h"
 #include "translate/cTranslate.h"
 
 namespace {
@@ -11,7 +12,7 @@ namespace {
 class ProfileLaunchTest : public AppFixture {
 protected:
     ProfileLaunchTest() {
-        profile.SetTarvolinPath("/games/Tar volin/tarvolin.exe");
+        profile.SetTarvolinPath(Native("/games/Tar volin/tarvolin.exe"));
         profile.SetRefresh(0);
     }
 
@@ -22,8 +23,8 @@ TEST_F(ProfileLaunchTest, StartsAtOnceWhenTheConfirmationIsOff) {
     g_cApp->Options().SetShowStartTarvolinDialog(false);
     profile.StartTarvolin(77);
     ASSERT_EQ(platform.calls.size(), 1u);
-    EXPECT_EQ(platform.calls[0], (ShellCall{77, "open", "/games/Tar volin/tarvolin.exe", "-log -res 2",
-                                            "/games/Tar volin/", 1}));
+    EXPECT_EQ(platform.calls[0], (ShellCall{77, "open", Native("/games/Tar volin/tarvolin.exe"),
+                                            "-log -res 2", Native("/games/Tar volin/"), 1}));
     EXPECT_TRUE(ui.startDialogs.empty());
     EXPECT_TRUE(ui.messages.empty());
 }
@@ -61,7 +62,7 @@ TEST_F(ProfileLaunchTest, AGameThatCannotStartIsExplained) {
         ASSERT_EQ(ui.messages.size(), 1u) << key;
         EXPECT_EQ(ui.messages[0].prompt,
                   g_cTranslate->TranslateEx("ERROR_MESSAGES", key, profile.TarvolinPath()));
-        EXPECT_NE(ui.messages[0].prompt.find("/games/Tar volin/tarvolin.exe"), std::string::npos);
+        EXPECT_NE(ui.messages[0].prompt.find(Native("/games/Tar volin/tarvolin.exe")), std::string::npos);
     }
     g_cApp->Options().SetLanguage("DE");
     profile.StartTarvolin(0);

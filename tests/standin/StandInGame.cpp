@@ -15,6 +15,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "platform/NativePath.h"
+#include "platform/Platform.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -38,20 +41,13 @@ int ArgumentCount(int argc) {
     return argc > 1 ? argc - 1 : 0;
 }
 
+// The directory as the program's own texts spell it, so a test compares it with its own path text.
 std::string RecordText(const fs::path& directory, int argc, char** argv) {
-    std::string text = Escaped(directory.string()) + "\n" + std::to_string(ArgumentCount(argc)) + "\n";
+    std::string text =
+        Escaped(platform::TextOf(directory)) + "\n" + std::to_string(ArgumentCount(argc)) + "\n";
     for (int i = 1; i < argc; ++i)
         text += Escaped(argv[i]) + "\n";
     return text;
-}
-
-// /proc/self/exe names the file itself; argv[0] is the fallback where there is no /proc.
-fs::path OwnFolder(const char* argv0) {
-    std::error_code error;
-    const fs::path self = fs::read_symlink("/proc/self/exe", error);
-    if (!error)
-        return self.parent_path();
-    return fs::absolute(argv0 != nullptr ? argv0 : "", error).parent_path();
 }
 
 bool WriteWhole(const fs::path& path, const std::string& text) {
@@ -63,7 +59,8 @@ bool WriteWhole(const fs::path& path, const std::string& text) {
 
 // A random part in the temporary name keeps two copies started at once from writing the same file.
 bool WriteAtomically(const fs::path& path, const std::string& text) {
-    const fs::path part = path.string() + "." + std::to_string(std::random_device{}()) + ".part";
+    fs::path part = path;
+    part += "." + std::to_string(std::random_device{}()) + ".part";
     std::error_code error;
     if (WriteWhole(part, text)) {
         fs::rename(part, path, error);
@@ -94,7 +91,7 @@ int main(int argc, char** argv) {
     const bool logged = AppendLog(directory, argc);
     if (!logged)
         std::cerr << "stand-in game: cannot append to tarvo.log in " << directory << '\n';
-    const fs::path record = OwnFolder(argc > 0 ? argv[0] : nullptr) / "launch-record.txt";
+    const fs::path record = platform::PathOf(Os().ProgramDirectory()) / "launch-record.txt";
     if (!WriteAtomically(record, RecordText(directory, argc, argv))) {
         std::cerr << "stand-in game: cannot write " << record << '\n';
         return EXIT_FAILURE;

@@ -4,11 +4,12 @@
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
+#include "platform/NativePath.h"
 #include "storage/IniStore.h"
 #include "storage/iniFile.h"
 #include "translate/cTranslate.h"
 
-AppFixture::AppFixture() : platform(dir.Path().string()) {
+AppFixture::AppFixture() : platform(platform::TextOf(dir.Path())) {
     iniFile::Store().Clear();
     InstallPlatform(&platform);
     InstallUserInterface(&ui);

@@ -7,6 +7,8 @@
 #include <thread>
 #include <utility>
 
+#include "platform/NativePath.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -62,7 +64,7 @@ std::vector<std::string> Lines(const std::string& text) {
 }
 
 std::optional<std::string> ReadWhole(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
+    std::ifstream in(platform::PathOf(path), std::ios::binary);
     if (!in)
         return std::nullopt;
     std::ostringstream text;
@@ -72,14 +74,16 @@ std::optional<std::string> ReadWhole(const std::string& path) {
 
 }  // namespace
 
-StandInGame::StandInGame(const fs::path& folder, const std::string& name) : m_path((folder / name).string()) {
+StandInGame::StandInGame(const fs::path& folder, const std::string& name)
+    : m_path(platform::TextOf(folder / platform::PathOf(name))) {
     fs::create_directories(folder);
-    fs::copy_file(PAVONEL_STANDIN_GAME, m_path, fs::copy_options::overwrite_existing);
-    fs::permissions(m_path, fs::perms::owner_all, fs::perm_options::add);
+    const fs::path installed = platform::PathOf(m_path);
+    fs::copy_file(PAVONEL_STANDIN_GAME, installed, fs::copy_options::overwrite_existing);
+    fs::permissions(installed, fs::perms::owner_all, fs::perm_options::add);
 }
 
 std::string StandInGame::RecordPath() const {
-    return (fs::path(m_path).parent_path() / "launch-record.txt").string();
+    return platform::TextOf(platform::PathOf(m_path).parent_path() / "launch-record.txt");
 }
 
 std::optional<LaunchRecord> StandInGame::WaitForRecord(std::chrono::milliseconds timeout) const {
@@ -94,7 +98,7 @@ std::optional<LaunchRecord> StandInGame::WaitForRecord(std::chrono::milliseconds
 }
 
 void StandInGame::ForgetRecord() const {
-    fs::remove(RecordPath());
+    fs::remove(platform::PathOf(RecordPath()));
 }
 
 std::optional<LaunchRecord> StandInGame::ParseRecord(const std::string& text) {

@@ -5,6 +5,8 @@
 #include <sstream>
 #include <system_error>
 
+#include "platform/NativePath.h"
+
 TempDir::TempDir() {
     std::random_device random;
     std::filesystem::path base = std::filesystem::temp_directory_path();
@@ -29,17 +31,17 @@ TempDir::~TempDir() {
 }
 
 std::string TempDir::File(const std::string& name) const {
-    return (m_path / name).string();
+    return platform::TextOf((m_path / platform::PathOf(name)).make_preferred());
 }
 
 std::string TempDir::Write(const std::string& name, const std::string& bytes) const {
     std::string path = File(name);
-    std::ofstream(path, std::ios::binary) << bytes;
+    std::ofstream(platform::PathOf(path), std::ios::binary) << bytes;
     return path;
 }
 
 std::string TempDir::Read(const std::string& name) const {
-    std::ifstream in(File(name), std::ios::binary);
+    std::ifstream in(platform::PathOf(File(name)), std::ios::binary);
     std::ostringstream content;
     content << in.rdbuf();
     return content.str();

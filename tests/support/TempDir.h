@@ -13,7 +13,7 @@ public:
 
     const std::filesystem::path& Path() const { return m_path; }
 
-    // The path of `name` inside the folder, as text.
+    // The path of `name` ("/" between its parts) inside the folder, as the program's own texts spell it.
     std::string File(const std::string& name) const;
 
     // Writes `bytes` to `name` inside the folder, exactly as given; returns the full path.

@@ -1,0 +1,202 @@
+#include "platform/FileSystem.h"
+
+#include <windows.h>
+// windows.h names ReplaceFileA "ReplaceFile", which is this file's own function; the A function is called
+// by its full name.
+#undef ReplaceFile
+
+#include <algorithm>
+
+namespace platform {
+namespace {
+
+// FILETIME counts 100-ns ticks since 1601-01-01; the program counts nanoseconds since 1970-01-01.
+constexpr int64_t kTicksFrom1601To1970 = 116444736000000000;
+
+int64_t Ticks(const FILETIME& time) {
+    return static_cast<int64_t>((static_cast<uint64_t>(time.dwHighDateTime) << 32) | time.dwLowDateTime);
+}
+
+int64_t Nanoseconds(const FILETIME& time) {
+    return (Ticks(time) - kTicksFrom1601To1970) * 100;
+}
+
+uint64_t Combined(DWORD high, DWORD low) {
+    return (static_cast<uint64_t>(high) << 32) | low;
+}
+
+// Closes the handle it holds when it goes out of scope.
+class Handle {
+public:
+    explicit Handle(HANDLE handle) : m_handle(handle) {}
+    ~Handle() {
+        if (Valid())
+            CloseHandle(m_handle);
+    }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+
+    bool Valid() const { return m_handle != INVALID_HANDLE_VALUE; }
+    HANDLE Get() const { return m_handle; }
+
+private:
+    HANDLE m_handle;
+};
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// Opens an existing entry, following links; folders too, since they are opened with backup semantics.
+HANDLE OpenExisting(const std::string& path, DWORD access) {
+    return CreateFileA(path.c_str(), access, kShareAll, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS,
+                       nullptr);
+}
+
+FileStamp StampFrom(const BY_HANDLE_FILE_INFORMATION& info) {
+    FileStamp stamp;
+    stamp.device = info.dwVolumeSerialNumber;
+    stamp.identity = Combined(info.nFileIndexHigh, info.nFileIndexLow);
+    stamp.size = Combined(info.nFileSizeHigh, info.nFileSizeLow);
+    stamp.modified = Ticks(info.ftLastWriteTime);
+    return stamp;
+}
+
+bool IsFolder(DWORD attributes) {
+    return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+// The coarsest modification-time resolution of the file systems a settings file may live on (FAT: 2 s).
+constexpr int64_t kTimeResolutionTicks = 20'000'000;
+
+bool IsSettled(const FileStamp& stamp) {
+    FILETIME now;
+    GetSystemTimeAsFileTime(&now);
+    return Ticks(now) - stamp.modified > kTimeResolutionTicks;
+}
+
+std::string FolderOf(const std::string& path) {
+    const std::string::size_type slash = path.find_last_of("\\/");
+    if (slash == std::string::npos)
+        return ".";
+    // "C:\settings.ini" lives in "C:\", which keeps its backslash.
+    return path.substr(0, slash == 2 && path[1] == ':' ? slash + 1 : slash);
+}
+
+bool WriteAll(HANDLE file, const std::string& bytes) {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const DWORD chunk = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, 1u << 30));
+        DWORD written = 0;
+        if (!WriteFile(file, bytes.data() + done, chunk, &written, nullptr) || written == 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
+// A new file beside `target` holding `bytes`, flushed to the disk; "" when it could not be made whole.
+std::string WriteTemporary(const std::string& target, const std::string& bytes) {
+    char name[MAX_PATH];
+    if (GetTempFileNameA(FolderOf(target).c_str(), "pav", 0, name) == 0)
+        return {};
+    bool ok = false;
+    {
+        const Handle file(
+            CreateFileA(name, GENERIC_WRITE, 0, nullptr, TRUNCATE_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+        ok = file.Valid() && WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
+    }
+    if (ok)
+        return name;
+    DeleteFileA(name);
+    return {};
+}
+
+}  // namespace
+
+std::optional<FileDetails> DetailsOf(const std::string& path) {
+    WIN32_FILE_ATTRIBUTE_DATA own;
+    if (path.empty() || !GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &own))
+        return std::nullopt;
+    FileDetails details;
+    details.symbolicLink = (own.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    BY_HANDLE_FILE_INFORMATION target;
+    bool followed = false;
+    if (details.symbolicLink) {
+        const Handle handle(OpenExisting(path, 0));
+        followed = handle.Valid() && GetFileInformationByHandle(handle.Get(), &target);
+    }
+    const DWORD attributes = followed ? target.dwFileAttributes : own.dwFileAttributes;
+    details.directory = IsFolder(attributes);
+    const uint64_t size = followed ? Combined(target.nFileSizeHigh, target.nFileSizeLow)
+                                   : Combined(own.nFileSizeHigh, own.nFileSizeLow);
+    details.size = details.directory ? 0 : size;
+    details.lastWrite = Nanoseconds(followed ? target.ftLastWriteTime : own.ftLastWriteTime);
+    details.lastAccess = Nanoseconds(followed ? target.ftLastAccessTime : own.ftLastAccessTime);
+    details.creation = Nanoseconds(followed ? target.ftCreationTime : own.ftCreationTime);
+    details.readOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    details.hidden = (attributes & FILE_ATTRIBUTE_HIDDEN) != 0;
+    return details;
+}
+
+std::optional<FileStamp> StampOf(const std::string& path) {
+    const Handle file(OpenExisting(path, 0));
+    BY_HANDLE_FILE_INFORMATION info;
+    if (!file.Valid() || !GetFileInformationByHandle(file.Get(), &info) || IsFolder(info.dwFileAttributes))
+        return std::nullopt;
+    return StampFrom(info);
+}
+
+std::optional<FileContent> ReadFile(const std::string& path) {
+    const Handle file(OpenExisting(path, GENERIC_READ));
+    BY_HANDLE_FILE_INFORMATION info;
+    if (!file.Valid() || !GetFileInformationByHandle(file.Get(), &info) || IsFolder(info.dwFileAttributes))
+        return std::nullopt;
+    FileContent content;
+    content.stamp = StampFrom(info);
+    content.settled = IsSettled(content.stamp);
+    content.bytes.resize(static_cast<std::size_t>(content.stamp.size));
+    std::size_t done = 0;
+    while (done < content.bytes.size()) {
+        const DWORD chunk = static_cast<DWORD>(std::min<std::size_t>(content.bytes.size() - done, 1u << 30));
+        DWORD got = 0;
+        if (!::ReadFile(file.Get(), content.bytes.data() + done, chunk, &got, nullptr))
+            return std::nullopt;
+        if (got == 0)
+            break;
+        done += got;
+    }
+    // A file that shrank while it was read ends where the reading did.
+    content.bytes.resize(done);
+    return content;
+}
+
+bool CanReplaceFile(const std::string& path) {
+    const DWORD folder = GetFileAttributesA(FolderOf(path).c_str());
+    if (folder == INVALID_FILE_ATTRIBUTES || !IsFolder(folder))
+        return false;
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return GetLastError() == ERROR_FILE_NOT_FOUND;
+    if (IsFolder(attributes) || (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        return false;
+    // The access rules of the file itself decide whether this user may change it.
+    const Handle file(OpenExisting(path, GENERIC_READ | GENERIC_WRITE));
+    return file.Valid();
+}
+
+std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes) {
+    const std::string temporary = WriteTemporary(path, bytes);
+    if (temporary.empty())
+        return std::nullopt;
+    // ReplaceFileA keeps the old file's attributes and access rules; a new file is simply moved in place.
+    const bool replaced = GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES
+                              ? ReplaceFileA(path.c_str(), temporary.c_str(), nullptr,
+                                             REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != FALSE
+                              : MoveFileExA(temporary.c_str(), path.c_str(), MOVEFILE_WRITE_THROUGH) != FALSE;
+    if (!replaced) {
+        DeleteFileA(temporary.c_str());
+        return std::nullopt;
+    }
+    return StampOf(path);
+}
+
+}  // namespace platform

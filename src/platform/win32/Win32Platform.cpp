@@ -1,0 +1,87 @@
+#include "platform/win32/Win32Platform.h"
+
+#include <windows.h>
+// The shell's headers need the definitions of windows.h first.
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <cstring>
+#include <vector>
+
+namespace {
+
+// The owner value the launcher has always passed for special-folder lookups; the shell only uses it to
+// parent a dialog, which these lookups never show.
+const auto kSpecialFolderOwner = reinterpret_cast<HWND>(static_cast<INT_PTR>(100));
+constexpr std::size_t kSpecialFolderBuffer = 512;
+constexpr UINT kWindowsDirectoryBuffer = 256;
+// The length field of the security record as the launcher has always filled it; Windows reads only the
+// descriptor and the inherit flag.
+constexpr DWORD kSecurityRecordLength = 12;
+
+const char* OrNull(const std::string& text) {
+    return text.empty() ? nullptr : text.c_str();
+}
+
+}  // namespace
+
+std::string Win32Platform::ProgramDirectory() {
+    std::vector<char> buffer(MAX_PATH);
+    for (;;) {
+        const DWORD length = GetModuleFileNameA(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
+        if (length == 0)
+            return ".";
+        if (length < buffer.size()) {
+            std::string path(buffer.data(), length);
+            const std::string::size_type slash = path.find_last_of("\\/");
+            if (slash == std::string::npos)
+                return ".";
+            // "C:\tarvolin.exe" lives in "C:\", which keeps its backslash.
+            return path.substr(0, slash == 2 && path[1] == ':' ? slash + 1 : slash);
+        }
+        buffer.resize(buffer.size() * 2);
+    }
+}
+
+int32_t Win32Platform::ShellExec(int64_t owner, const std::string& verb, const std::string& file,
+                                 const std::string& parameters, const std::string& directory,
+                                 int32_t showCommand) {
+    const HINSTANCE result = ShellExecuteA(reinterpret_cast<HWND>(static_cast<INT_PTR>(owner)), OrNull(verb),
+                                           file.c_str(), OrNull(parameters), OrNull(directory), showCommand);
+    return static_cast<int32_t>(reinterpret_cast<INT_PTR>(result));
+}
+
+std::string Win32Platform::SpecialFolder(int32_t csidl) {
+    LPITEMIDLIST item = nullptr;
+    if (SHGetSpecialFolderLocation(kSpecialFolderOwner, csidl, &item) != S_OK || item == nullptr)
+        return {};
+    std::string buffer(kSpecialFolderBuffer, ' ');
+    // The shell writes an empty text for a folder without a file-system path, so the answer is whatever
+    // stands before the terminator; a buffer without one holds nothing that can be trusted as a path.
+    SHGetPathFromIDListA(item, buffer.data());
+    CoTaskMemFree(item);
+    const std::string::size_type end = buffer.find('\0');
+    if (end == std::string::npos)
+        return {};
+    buffer.resize(end);
+    return buffer;
+}
+
+std::string Win32Platform::WindowsDirectory() {
+    char buffer[kWindowsDirectoryBuffer];
+    const UINT length = GetWindowsDirectoryA(buffer, kWindowsDirectoryBuffer - 1);
+    return length < kWindowsDirectoryBuffer ? std::string(buffer, length) : std::string();
+}
+
+bool Win32Platform::CreateNamedMutex(const std::string& name) {
+    SECURITY_ATTRIBUTES security;
+    std::memset(&security, 0, sizeof security);
+    security.nLength = kSecurityRecordLength;
+    security.lpSecurityDescriptor = nullptr;
+    security.bInheritHandle = FALSE;
+    return CreateMutexA(&security, FALSE, name.c_str()) != nullptr;
+}
+
+std::unique_ptr<Platform> CreateNativePlatform() {
+    return std::make_unique<Win32Platform>();
+}

@@ -1,0 +1,28 @@
+// The platform on Windows: every operation is the Windows function of the same purpose, called with the
+// values the launcher has always passed, so an installer or a script sees the same program.
+#pragma once
+
+#include "platform/Platform.h"
+
+class Win32Platform : public Platform {
+public:
+    // The folder of the running executable (GetModuleFileNameA), without its trailing backslash unless it
+    // is a drive's root.
+    std::string ProgramDirectory() override;
+
+    // ShellExecuteA with `owner` as the owner window; its result as a number.
+    int32_t ShellExec(int64_t owner, const std::string& verb, const std::string& file,
+                      const std::string& parameters, const std::string& directory,
+                      int32_t showCommand) override;
+
+    // SHGetSpecialFolderLocation with the owner value 100, then SHGetPathFromIDListA into a 512-character
+    // buffer. "" when the shell knows no such folder or it has no file-system path (the drive list).
+    std::string SpecialFolder(int32_t csidl) override;
+
+    // GetWindowsDirectoryA into a 256-character buffer.
+    std::string WindowsDirectory() override;
+
+    // CreateMutexA without initial ownership. The handle stays open until the process ends, and a mutex that
+    // already exists (a second copy of the launcher) is as good as a new one.
+    bool CreateNamedMutex(const std::string& name) override;
+};
