@@ -5,7 +5,6 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
-#include <cstring>
 #include <vector>
 
 namespace {
@@ -74,8 +73,7 @@ std::string Win32Platform::WindowsDirectory() {
 }
 
 bool Win32Platform::CreateNamedMutex(const std::string& name) {
-    SECURITY_ATTRIBUTES security;
-    std::memset(&security, 0, sizeof security);
+    SECURITY_ATTRIBUTES security{};
     security.nLength = kSecurityRecordLength;
     security.lpSecurityDescriptor = nullptr;
     security.bInheritHandle = FALSE;
