@@ -10,6 +10,8 @@
 #include <ctime>
 #include <string_view>
 
+#include "platform/NativePath.h"
+
 namespace platform {
 namespace {
 
@@ -33,13 +35,6 @@ bool IsSettled(const FileStamp& stamp) {
 }
 
 constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-
-std::string FolderOf(const std::string& path) {
-    std::string::size_type slash = path.find_last_of('/');
-    if (slash == std::string::npos)
-        return ".";
-    return slash == 0 ? "/" : path.substr(0, slash);
-}
 
 // The file a write must replace: the target of a symbolic link rather than the link itself.
 std::string Resolved(const std::string& path) {

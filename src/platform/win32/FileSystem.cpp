@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+#include "platform/NativePath.h"
+
 namespace platform {
 namespace {
 
@@ -71,14 +73,6 @@ bool IsSettled(const FileStamp& stamp) {
     FILETIME now;
     GetSystemTimeAsFileTime(&now);
     return Ticks(now) - stamp.modified > kTimeResolutionTicks;
-}
-
-std::string FolderOf(const std::string& path) {
-    const std::string::size_type slash = path.find_last_of("\\/");
-    if (slash == std::string::npos)
-        return ".";
-    // "C:\settings.ini" lives in "C:\", which keeps its backslash.
-    return path.substr(0, slash == 2 && path[1] == ':' ? slash + 1 : slash);
 }
 
 bool WriteAll(HANDLE file, const std::string& bytes) {

@@ -30,4 +30,12 @@ std::string TextOf(const std::filesystem::path& path) {
     return lossy ? std::string() : text;
 }
 
+std::string FolderOf(const std::string& path) {
+    const std::string::size_type slash = path.find_last_of("\\/");
+    if (slash == std::string::npos)
+        return ".";
+    // "C:\tarvolin.exe" lives in "C:\", which keeps its backslash.
+    return path.substr(0, slash == 2 && path[1] == ':' ? slash + 1 : slash);
+}
+
 }  // namespace platform

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+#include "platform/NativePath.h"
+
 namespace {
 
 // The owner value the launcher has always passed for special-folder lookups; the shell only uses it to
@@ -30,14 +32,8 @@ std::string Win32Platform::ProgramDirectory() {
         const DWORD length = GetModuleFileNameA(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
         if (length == 0)
             return ".";
-        if (length < buffer.size()) {
-            std::string path(buffer.data(), length);
-            const std::string::size_type slash = path.find_last_of("\\/");
-            if (slash == std::string::npos)
-                return ".";
-            // "C:\tarvolin.exe" lives in "C:\", which keeps its backslash.
-            return path.substr(0, slash == 2 && path[1] == ':' ? slash + 1 : slash);
-        }
+        if (length < buffer.size())
+            return platform::FolderOf(std::string(buffer.data(), length));
         buffer.resize(buffer.size() * 2);
     }
 }
