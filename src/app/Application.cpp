@@ -9,8 +9,18 @@
 #include "storage/mIni.h"
 #include "translate/cTranslate.h"
 
+namespace {
+
+// The companions find the settings file through the program-wide application object, whichever it is now.
+std::optional<std::string> ProgramSettingsPath() {
+    return g_cApp ? std::optional<std::string>(g_cApp->IniPath()) : std::nullopt;
+}
+
+}  // namespace
+
 Application::Application() {
     try {
+        cIni_Base::InstallPathSource(&ProgramSettingsPath);
         m_profiles = std::make_unique<::Profiles>();
         m_options = std::make_unique<::Options>();
         m_settings = std::make_unique<cIni_Application>();

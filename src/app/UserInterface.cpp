@@ -1,6 +1,8 @@
 #include "app/UserInterface.h"
 
 #include "app/ConsoleUserInterface.h"
+#include "app/ErrorReport.h"
+#include "error/mError.h"
 
 namespace {
 
@@ -15,4 +17,5 @@ UserInterface& Ui() {
 
 void InstallUserInterface(UserInterface* ui) {
     g_installed = ui;
+    mError::InstallReporter(&ShowErrorReport);
 }

@@ -6,9 +6,6 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "app/UserInterface.h"
-#include "error/ErrorReport.h"
-
 namespace mError {
 namespace {
 
@@ -21,7 +18,18 @@ Failure FromFilesystemError(const std::filesystem::filesystem_error& error) {
     return Failure(number, description);
 }
 
+void PrintFailure(const Failure& failure) {
+    std::cerr << "Pavonel: " << failure.Description() << " (" << failure.Number() << ")\n"
+              << failure.Source() << '\n';
+}
+
+Reporter g_reporter = &PrintFailure;
+
 }  // namespace
+
+void InstallReporter(Reporter reporter) noexcept {
+    g_reporter = reporter != nullptr ? reporter : &PrintFailure;
+}
 
 std::string RuntimeDescription(int32_t number) {
     switch (number) {
@@ -92,13 +100,12 @@ void ShowError(const std::string& procedure) noexcept {
         failure.PrependSource(procedure);
         if (failure.Number() == 0)
             return;
-        ErrorReport report = ComposeErrorReport(failure);
         if (reporting) {
-            std::cerr << report.text << '\n';
+            PrintFailure(failure);
             return;
         }
         reporting = true;
-        Ui().ShowErrorReport(report);
+        g_reporter(failure);
         reporting = false;
     } catch (...) {
         reporting = false;

@@ -2,7 +2,7 @@
 //     } catch (...) { mError::PassOn("Module.Procedure"); }
 // and an entry point (an event handler, Main, an owned object's construction or destruction) ends with
 //     } catch (...) { mError::ShowError("frmMain.cmdStart_Click"); }
-// which opens the error report through the UserInterface.
+// which hands the failure to the installed reporter (the error report window in the program).
 #pragma once
 
 #include <cstdint>
@@ -44,9 +44,14 @@ Failure ToFailure(const std::exception_ptr& error);
 // Puts `procedure` in front of the current failure's source and throws it on. Call only inside a catch block.
 [[noreturn]] void PassOn(const std::string& procedure);
 
-// Puts `procedure` in front of the current failure's source and, unless its number is 0, shows the error
-// report. Never throws. Call only inside a catch block.
+// Puts `procedure` in front of the current failure's source and, unless its number is 0, hands it to the
+// installed reporter. Never throws. Call only inside a catch block.
 void ShowError(const std::string& procedure) noexcept;
+
+// Shows a failure to the user. The application installs the one that composes the report and opens the
+// report window; until then a failure's description and trail go to the standard error stream.
+using Reporter = void (*)(const Failure& failure);
+void InstallReporter(Reporter reporter) noexcept;
 
 // Runs `body` and passes any failure on with `procedure` in front of its trail: the short form of a
 // procedure whose whole body is one expression.

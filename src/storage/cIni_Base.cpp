@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "app/Application.h"
-#include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "storage/mIni.h"
 
@@ -13,13 +11,19 @@ mIni::IniArg Arg(const std::optional<std::string>& text) {
     return text ? mIni::IniArg(*text) : std::nullopt;
 }
 
+cIni_Base::PathSource g_pathSource = nullptr;
+
 }  // namespace
+
+void cIni_Base::InstallPathSource(PathSource source) noexcept {
+    g_pathSource = source;
+}
 
 cIni_Base::cIni_Base(std::string module, std::string section)
     : m_module(std::move(module)), m_section(std::move(section)) {}
 
 std::optional<std::string> cIni_Base::IniPath() {
-    return g_cApp ? std::optional<std::string>(g_cApp->IniPath()) : std::nullopt;
+    return g_pathSource != nullptr ? g_pathSource() : std::nullopt;
 }
 
 std::string cIni_Base::ReadFromIni(std::string_view key, std::string_view defaultValue) const try {

@@ -1,5 +1,5 @@
 // What the four settings companions share: one section of the settings file, whose path they ask the
-// application object for on every access, and the generic typed reads and writes into it.
+// installed path source for on every access, and the generic typed reads and writes into it.
 #pragma once
 
 #include <cstdint>
@@ -11,6 +11,11 @@
 
 class cIni_Base {
 public:
+    // Where the settings file is: the application installs a source that names its file, or nothing while
+    // there is no application. An absent path is refused as "Invalid value", as every absent argument is.
+    using PathSource = std::optional<std::string> (*)();
+    static void InstallPathSource(PathSource source) noexcept;
+
     std::string ReadFromIni(std::string_view key, std::string_view defaultValue) const;
     void WriteToIni(std::string_view key, std::string_view value) const;
     bool ReadBoolFromIni(std::string_view key, bool defaultValue) const;
@@ -33,7 +38,7 @@ protected:
     std::string Procedure(const char* name) const { return m_module + "." + name; }
 
 private:
-    // The settings file of the application object; absent when there is none.
+    // The settings file the installed source names; absent when there is none.
     static std::optional<std::string> IniPath();
 
     std::string m_module;

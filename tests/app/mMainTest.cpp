@@ -7,7 +7,7 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/mMutex.h"
-#include "error/ErrorReport.h"
+#include "app/ErrorReport.h"
 #include "error/mError.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"

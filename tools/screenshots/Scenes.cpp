@@ -10,7 +10,7 @@
 #include "ScreenshotSession.h"
 #include "app/PublicObjects.h"
 #include "app/UserInterface.h"
-#include "error/ErrorReport.h"
+#include "app/ErrorReport.h"
 #include "error/Failure.h"
 #include "profiles/Profile.h"
 #include "translate/cTranslate.h"

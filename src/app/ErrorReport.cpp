@@ -1,4 +1,4 @@
-#include "error/ErrorReport.h"
+#include "app/ErrorReport.h"
 
 #include <filesystem>
 #include <system_error>
@@ -45,7 +45,8 @@ int32_t PlainErrorNumber(int32_t number) {
 ErrorReport ComposeErrorReport(const Failure& failure) {
     Context context = GatherContext();
     std::string text;
-    text += "Pavonel-Version: " + std::string(Version::kText) + kCrLf + kCrLf;
+    text += "Pavonel-Version: " + std::to_string(Version::kMajor) + "." + std::to_string(Version::kMinor) +
+            "." + std::to_string(Version::kRevision) + kCrLf + kCrLf;
     text += "Description:" + std::string(kCrLf) + failure.Description() + kCrLf + kCrLf;
     text += "Err.-Number: " + std::to_string(failure.Number()) + " (" +
             std::to_string(PlainErrorNumber(failure.Number())) + ")" + kCrLf + kCrLf;
@@ -56,4 +57,8 @@ ErrorReport ComposeErrorReport(const Failure& failure) {
     text += "Tarvolin-Version: " + context.gameVersion + kCrLf;
     text += "Tarvolin-Path: " + context.gamePath;
     return ErrorReport{failure.Number(), failure.Description(), failure.Source(), text};
+}
+
+void ShowErrorReport(const Failure& failure) {
+    Ui().ShowErrorReport(ComposeErrorReport(failure));
 }

@@ -1,4 +1,4 @@
-#include "error/ErrorReport.h"
+#include "app/ErrorReport.h"
 
 #include <gtest/gtest.h>
 
