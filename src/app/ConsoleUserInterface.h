@@ -17,7 +17,4 @@ public:
     Profile* ShowLoadProfileDialog() override;
     void ShowSaveDialog() override;
     bool ShowStartTarvolinDialog(Profile& profile) override;
-
-    // The button that a box of this style offers as its default.
-    static int DefaultButton(int style);
 };

@@ -7,12 +7,13 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/mMain.h"
+#include "base/mString.h"
 #include "platform/NativePath.h"
 #include "platform/Platform.h"
 
 namespace {
 
-constexpr const char* kCrLf = "\r\n";
+using mString::kCrLf;
 
 struct Context {
     std::string iniPath;

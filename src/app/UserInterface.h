@@ -35,6 +35,14 @@ enum MsgBoxResult : int {
     vbNo = 7
 };
 
+// The buttons of a style's set (its low four bits), in the order its default-button bits count them. A value
+// there that names no set (10, say) shows an OK box.
+std::vector<int> MsgBoxButtons(int style);
+
+// The button a box of `style` offers as its default; one beyond the set falls back to the first, as on
+// Windows.
+int MsgBoxDefaultButton(int style);
+
 // A finished error report, ready to be shown.
 struct ErrorReport {
     int32_t number = 0;

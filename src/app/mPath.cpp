@@ -44,8 +44,8 @@ std::string AddOrRemoveBackslash(const std::string& path, bool add, PathFlavour 
 }
 
 std::string GetDirectoryPart(const std::string& path, PathFlavour flavour) {
-    std::string::size_type last = path.find_last_of(Separator(flavour));
-    return last == std::string::npos ? std::string() : path.substr(0, last + 1);
+    const char separator = Separator(flavour);
+    return std::string(mString::UpToLastOf(path, std::string_view(&separator, 1)));
 }
 
 }  // namespace mPath

@@ -46,6 +46,18 @@ bool ParseDecimal(std::string_view text, Number& number) {
 
 }  // namespace
 
+std::string_view TrimView(std::string_view text, std::string_view blanks) {
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::string_view UpToLastOf(std::string_view text, std::string_view characters) {
+    const std::size_t last = text.find_last_of(characters);
+    return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
+}
+
 std::string TrimLeft(std::string_view text) {
     std::size_t first = text.find_first_not_of(' ');
     return first == std::string_view::npos ? std::string() : std::string(text.substr(first));
@@ -57,7 +69,7 @@ std::string TrimRight(std::string_view text) {
 }
 
 std::string Trim(std::string_view text) {
-    return TrimLeft(TrimRight(text));
+    return std::string(TrimView(text));
 }
 
 std::string UCase(std::string_view text) {
@@ -126,10 +138,14 @@ int16_t ToInt16(std::string_view text) {
     double value = whole.empty() ? 0.0 : std::stod(std::string(whole));
     if (!number.fraction.empty())
         value += std::stod("0." + std::string(number.fraction));
-    value = std::nearbyint(number.negative ? -value : value);  // the default rounding mode: half to even
-    if (value < -32768.0 || value > 32767.0)
+    return RoundToInt16(number.negative ? -value : value);
+}
+
+int16_t RoundToInt16(double value) {
+    const double rounded = std::nearbyint(value);  // the default rounding mode: half to even
+    if (!(rounded >= -32768.0 && rounded <= 32767.0))
         mError::RaiseRuntimeError(mError::kOverflow);
-    return static_cast<int16_t>(value);
+    return static_cast<int16_t>(rounded);
 }
 
 }  // namespace mString

@@ -8,6 +8,12 @@
 
 namespace mString {
 
+// The line break of the program's texts, the settings file's and the reports'.
+inline constexpr const char* kCrLf = "\r\n";
+
+// `text` without the leading and trailing characters that are in `blanks`.
+std::string_view TrimView(std::string_view text, std::string_view blanks = " ");
+
 // Removes leading and trailing spaces (tabs and other characters stay).
 std::string Trim(std::string_view text);
 std::string TrimLeft(std::string_view text);
@@ -23,6 +29,9 @@ std::string StripAtNul(std::string_view text);
 
 std::vector<std::string> Split(std::string_view text, char separator);
 
+// `text` up to and including the last of `characters` in it; empty when it holds none of them.
+std::string_view UpToLastOf(std::string_view text, std::string_view characters);
+
 // Replaces every occurrence of `find` from the 1-based position `start` on. After a hit the search goes on
 // behind the inserted replacement, so a replacement that contains `find` is not replaced again. `start` is
 // left where the next search would have begun. An empty `find` changes nothing.
@@ -32,6 +41,9 @@ void ReplaceAll(std::string& text, std::string_view find, std::string_view repla
 // fraction (rounded half to even) are accepted. Raises failure 13 (type mismatch) for text that is no number
 // and 6 (overflow) for a number outside -32768..32767.
 int16_t ToInt16(std::string_view text);
+
+// Rounds half to even into a 16-bit integer; raises failure 6 (overflow) for what does not fit.
+int16_t RoundToInt16(double value);
 
 // True for text that ToInt16-style conversion would read as a number, whatever its size.
 bool IsNumeric(std::string_view text);

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr const char* kCrLf = "\r\n";
+using mString::kCrLf;
 
 }  // namespace
 

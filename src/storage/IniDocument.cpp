@@ -11,10 +11,7 @@ constexpr std::string_view kLineBreaks = "\r\n";
 constexpr std::string_view kEolText[] = {"", "\r\n", "\n", "\r"};
 
 std::string_view TrimBlanks(std::string_view text) {
-    std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+    return mString::TrimView(text, kBlanks);
 }
 
 std::string_view Unquoted(std::string_view value) {

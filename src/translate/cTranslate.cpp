@@ -30,7 +30,7 @@ std::string cTranslate::TranslateEx(const std::string& section, const std::strin
         std::string text = Lookup(section, key);
         Replace(text, "%P1%", p1);
         Replace(text, "%P2%", p2);
-        Replace(text, "\\n", "\r\n");
+        Replace(text, "\\n", mString::kCrLf);
         return text;
     } catch (...) {
         mError::ShowError("cTranslate.TranslateEx");

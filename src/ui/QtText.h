@@ -8,6 +8,8 @@
 namespace QtText {
 
 QString ToQt(const std::string& text);
+// The same for a text shown in lines: Qt breaks lines at LF, the program's texts at CR LF.
+QString ToQtLines(const std::string& text);
 std::string FromQt(const QString& text);
 
 }  // namespace QtText

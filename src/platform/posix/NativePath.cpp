@@ -1,5 +1,7 @@
 #include "platform/NativePath.h"
 
+#include "base/mString.h"
+
 namespace platform {
 
 std::filesystem::path PathOf(const std::string& text) {
@@ -11,10 +13,10 @@ std::string TextOf(const std::filesystem::path& path) {
 }
 
 std::string FolderOf(const std::string& path) {
-    const std::string::size_type slash = path.find_last_of('/');
-    if (slash == std::string::npos)
+    const std::string_view directory = mString::UpToLastOf(path, "/");
+    if (directory.empty())
         return ".";
-    return slash == 0 ? "/" : path.substr(0, slash);
+    return std::string(directory.size() == 1 ? directory : directory.substr(0, directory.size() - 1));
 }
 
 }  // namespace platform

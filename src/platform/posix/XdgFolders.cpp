@@ -8,6 +8,8 @@
 #include <sstream>
 #include <string_view>
 
+#include "base/mString.h"
+
 namespace platform {
 
 namespace {
@@ -78,11 +80,7 @@ std::string ExpandHome(const std::string& value, const std::string& home) {
 }
 
 std::string_view Trimmed(std::string_view line) {
-    const size_t first = line.find_first_not_of(" \t\r");
-    if (first == std::string_view::npos)
-        return {};
-    const size_t last = line.find_last_not_of(" \t\r");
-    return line.substr(first, last - first + 1);
+    return mString::TrimView(line, " \t\r");
 }
 
 // Reads XDG_DESKTOP_DIR from the text of a user-dirs.dirs file; "" when it holds no usable assignment.

@@ -4,6 +4,8 @@
 
 #include <climits>
 
+#include "base/mString.h"
+
 namespace platform {
 
 std::filesystem::path PathOf(const std::string& text) {
@@ -31,11 +33,12 @@ std::string TextOf(const std::filesystem::path& path) {
 }
 
 std::string FolderOf(const std::string& path) {
-    const std::string::size_type slash = path.find_last_of("\\/");
-    if (slash == std::string::npos)
+    const std::string_view directory = mString::UpToLastOf(path, "\\/");
+    if (directory.empty())
         return ".";
     // "C:\tarvolin.exe" lives in "C:\", which keeps its backslash.
-    return path.substr(0, slash == 2 && path[1] == ':' ? slash + 1 : slash);
+    const bool driveRoot = directory.size() == 3 && directory[1] == ':';
+    return std::string(driveRoot ? directory : directory.substr(0, directory.size() - 1));
 }
 
 }  // namespace platform

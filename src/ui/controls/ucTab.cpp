@@ -9,11 +9,10 @@
 
 #include "error/mError.h"
 #include "ui/controls/PropertyBag.h"
+#include "ui/controls/TabColours.h"
 
 namespace {
 
-const QColor kBorderColor(0x80, 0x80, 0x80);
-const QColor kFillColor(0xE0, 0xE0, 0xE0);
 const QString kDefaultCaption = QStringLiteral("Label1");
 
 // The caption keeps this margin on both sides.
@@ -112,14 +111,14 @@ QSize ucTab::sizeHint() const {
 void ucTab::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const qreal inset = FrameBorderWidth() / 2.0;
-    painter.setPen(QPen(kBorderColor, FrameBorderWidth()));
-    painter.setBrush(kFillColor);
+    painter.setPen(QPen(TabColours::kBorder, FrameBorderWidth()));
+    painter.setBrush(TabColours::kFill);
     painter.drawRect(QRectF(FrameRect()).adjusted(inset, inset, -inset, -inset));
     if (!hasFocus())
         return;
     QStyleOptionFocusRect option;
     option.initFrom(this);
-    option.backgroundColor = kFillColor;
+    option.backgroundColor = TabColours::kFill;
     option.rect = m_label->geometry().adjusted(-3, -1, 3, 1);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }

@@ -4,16 +4,10 @@
 
 #include "error/mError.h"
 #include "ui/controls/PropertyBag.h"
-
-namespace {
-
-const QColor kDefaultBorderColor(0x80, 0x80, 0x80);
-const QColor kDefaultBackColor(0xE0, 0xE0, 0xE0);
-
-}  // namespace
+#include "ui/controls/TabColours.h"
 
 ucTabArea::ucTabArea(QWidget* parent)
-    : QWidget(parent), m_borderColor(kDefaultBorderColor), m_backColor(kDefaultBackColor) {
+    : QWidget(parent), m_borderColor(TabColours::kBorder), m_backColor(TabColours::kFill) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_frame = QRect(QPoint(0, 0), size());
 }
@@ -43,15 +37,15 @@ void ucTabArea::SetBackColor(const QColor& value) try {
 }
 
 void ucTabArea::ReadProperties(const PropertyBag& bag) try {
-    SetBorderColor(bag.ReadColor(QStringLiteral("BorderColor"), kDefaultBorderColor));
-    SetBackColor(bag.ReadColor(QStringLiteral("BackColor"), kDefaultBackColor));
+    SetBorderColor(bag.ReadColor(QStringLiteral("BorderColor"), TabColours::kBorder));
+    SetBackColor(bag.ReadColor(QStringLiteral("BackColor"), TabColours::kFill));
 } catch (...) {
     mError::ShowError("UserControl_ReadProperties");
 }
 
 void ucTabArea::WriteProperties(PropertyBag& bag) const try {
-    bag.WriteProperty(QStringLiteral("BorderColor"), BorderColor(), kDefaultBorderColor);
-    bag.WriteProperty(QStringLiteral("BackColor"), BackColor(), kDefaultBackColor);
+    bag.WriteProperty(QStringLiteral("BorderColor"), BorderColor(), TabColours::kBorder);
+    bag.WriteProperty(QStringLiteral("BackColor"), BackColor(), TabColours::kFill);
 } catch (...) {
     mError::ShowError("UserControl_WriteProperties");
 }

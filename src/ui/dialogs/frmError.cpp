@@ -193,10 +193,8 @@ void frmError::TranslateDialog() {
 
 void frmError::InitDialog(const ErrorReport& report) try {
     m_report = report;
-    txtDescription->setPlainText(
-        QtText::ToQt(report.description).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-    txtErrorNote->setPlainText(
-        QtText::ToQt(report.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    txtDescription->setPlainText(QtText::ToQtLines(report.description));
+    txtErrorNote->setPlainText(QtText::ToQtLines(report.text));
     TabStrip1->setCurrentIndex(kReportPage);
     cmdCopy->setFocus();
 } catch (...) {

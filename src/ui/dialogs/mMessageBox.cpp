@@ -34,23 +34,34 @@ protected:
     }
 };
 
-// The buttons of each set, in the order a style's default-button bits count them. The set is the style's
-// low four bits; a value there that names no set (10, say) shows an OK box.
+// The Qt button of each MsgBoxResult, in both directions.
+constexpr std::array<std::pair<Button, int>, 7> kButtons = {{{QMessageBox::Ok, vbOK},
+                                                             {QMessageBox::Cancel, vbCancel},
+                                                             {QMessageBox::Abort, vbAbort},
+                                                             {QMessageBox::Retry, vbRetry},
+                                                             {QMessageBox::Ignore, vbIgnore},
+                                                             {QMessageBox::Yes, vbYes},
+                                                             {QMessageBox::No, vbNo}}};
+
+Button ToButton(int result) {
+    for (const auto& [button, value] : kButtons)
+        if (value == result)
+            return button;
+    return QMessageBox::Ok;
+}
+
+int ToResult(int button) {
+    for (const auto& [qtButton, value] : kButtons)
+        if (qtButton == button)
+            return value;
+    return vbOK;
+}
+
 std::vector<Button> ButtonSet(int style) {
-    switch (style & 0xF) {
-        case vbOKCancel:
-            return {QMessageBox::Ok, QMessageBox::Cancel};
-        case vbAbortRetryIgnore:
-            return {QMessageBox::Abort, QMessageBox::Retry, QMessageBox::Ignore};
-        case vbYesNoCancel:
-            return {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
-        case vbYesNo:
-            return {QMessageBox::Yes, QMessageBox::No};
-        case vbRetryCancel:
-            return {QMessageBox::Retry, QMessageBox::Cancel};
-        default:
-            return {QMessageBox::Ok};
-    }
+    std::vector<Button> buttons;
+    for (int result : MsgBoxButtons(style))
+        buttons.push_back(ToButton(result));
+    return buttons;
 }
 
 QMessageBox::Icon IconOf(int style) {
@@ -60,12 +71,6 @@ QMessageBox::Icon IconOf(int style) {
     const int index = (style >> 4) & 7;
     return index < static_cast<int>(kIcons.size()) ? kIcons[static_cast<std::size_t>(index)]
                                                    : QMessageBox::NoIcon;
-}
-
-// A default button beyond the set falls back to the first button, as on Windows.
-Button DefaultOf(int style, const std::vector<Button>& buttons) {
-    const std::size_t position = static_cast<std::size_t>((style >> 8) & 3);
-    return position < buttons.size() ? buttons[position] : buttons.front();
 }
 
 void SetEscape(QMessageBox& box, const std::vector<Button>& buttons) {
@@ -94,38 +99,19 @@ void TranslateButtons(QMessageBox& box) {
     }
 }
 
-int ToResult(int button) {
-    switch (button) {
-        case QMessageBox::Cancel:
-            return vbCancel;
-        case QMessageBox::Abort:
-            return vbAbort;
-        case QMessageBox::Retry:
-            return vbRetry;
-        case QMessageBox::Ignore:
-            return vbIgnore;
-        case QMessageBox::Yes:
-            return vbYes;
-        case QMessageBox::No:
-            return vbNo;
-        default:
-            return vbOK;
-    }
-}
-
 }  // namespace
 
 std::unique_ptr<QMessageBox> Create(const std::string& prompt, int style, QWidget* parent) {
     auto box = std::make_unique<QMessageBox>(parent);
     box->setWindowTitle(QString::fromLatin1(kProgramTitle));
     box->setTextFormat(Qt::PlainText);
-    box->setText(QtText::ToQt(prompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    box->setText(QtText::ToQtLines(prompt));
     box->setIcon(IconOf(style));
     const std::vector<Button> buttons = ButtonSet(style);
     for (Button button : buttons)
         box->addButton(button);
     TranslateButtons(*box);
-    box->setDefaultButton(DefaultOf(style, buttons));
+    box->setDefaultButton(ToButton(MsgBoxDefaultButton(style)));
     SetEscape(*box, buttons);
     return box;
 }

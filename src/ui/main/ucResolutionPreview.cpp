@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "base/mString.h"
 #include "error/mError.h"
 
 namespace {
@@ -23,14 +24,6 @@ const QColor kScreenEdgeColor(0x5A, 0x63, 0x6E);
 const QColor kWindowColor(0xD4, 0xD0, 0xC8);
 const QColor kTitleColor(0x0A, 0x24, 0x6A);
 const QColor kTitleFadeColor(0xA6, 0xCA, 0xF0);
-
-// Rounds half to even and refuses what does not fit 16 bits, as every measure of the control must.
-int16_t RoundToInt16(double value) {
-    const double rounded = std::nearbyint(value);
-    if (!(rounded >= -32768.0 && rounded <= 32767.0))
-        mError::RaiseRuntimeError(mError::kOverflow);
-    return static_cast<int16_t>(rounded);
-}
 
 }  // namespace
 
@@ -53,8 +46,8 @@ QPixmap ucResolutionPreview::SamplePicture() {
 
 void ucResolutionPreview::SetPicture(const QPixmap& picture) try {
     const QSizeF natural = picture.deviceIndependentSize();
-    const int16_t naturalWidth = RoundToInt16(natural.width());
-    const int16_t naturalHeight = RoundToInt16(natural.height());
+    const int16_t naturalWidth = mString::RoundToInt16(natural.width());
+    const int16_t naturalHeight = mString::RoundToInt16(natural.height());
     m_picture = picture;
     m_naturalWidth = naturalWidth;
     m_naturalHeight = naturalHeight;
@@ -110,13 +103,14 @@ void ucResolutionPreview::resizeEvent(QResizeEvent* event) {
 
 // The picture's size for a resolution: scaled against 640 x 480, or a share of the control in window look.
 QRect ucResolutionPreview::ImageRectFor(int16_t width, int16_t height, bool windowLook) const {
-    const int16_t imageWidth = windowLook ? RoundToInt16(this->width() * kWindowShare)
-                                          : RoundToInt16(m_naturalWidth / double(width) * kNaturalWidthAt);
-    const int16_t imageHeight = windowLook
-                                    ? RoundToInt16(this->height() * kWindowShare)
-                                    : RoundToInt16(m_naturalHeight / double(height) * kNaturalHeightAt);
-    const int16_t left = RoundToInt16((this->width() - imageWidth) / 2.0);
-    const int16_t top = RoundToInt16((this->height() - imageHeight) / 2.0);
+    const int16_t imageWidth = windowLook
+                                   ? mString::RoundToInt16(this->width() * kWindowShare)
+                                   : mString::RoundToInt16(m_naturalWidth / double(width) * kNaturalWidthAt);
+    const int16_t imageHeight =
+        windowLook ? mString::RoundToInt16(this->height() * kWindowShare)
+                   : mString::RoundToInt16(m_naturalHeight / double(height) * kNaturalHeightAt);
+    const int16_t left = mString::RoundToInt16((this->width() - imageWidth) / 2.0);
+    const int16_t top = mString::RoundToInt16((this->height() - imageHeight) / 2.0);
     return QRect(left, top, imageWidth, imageHeight);
 }
 
