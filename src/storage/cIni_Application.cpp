@@ -1,23 +1,23 @@
 #include "storage/cIni_Application.h"
 
-#include "error/mError.h"
+namespace {
+
+constexpr IniKey<const char*> kFileVersion{"FILEVERSION", "1"};
+constexpr IniKey<const char*> kAppVersion{"APPVERSION", "1"};
+
+}  // namespace
 
 cIni_Application::cIni_Application() : cIni_Base("cIni_Application", "APPLICATION") {}
 
 std::string cIni_Application::Read_FileVersion() const {
-    return mError::WithTrail("cIni_Application.Read_FileVersion",
-                             [&] { return ReadFromIni("FILEVERSION", "1"); });
+    return Read(kFileVersion, "Read_FileVersion");
 }
-
 void cIni_Application::Write_FileVersion(const std::string& value) const {
-    mError::WithTrail("cIni_Application.Write_FileVersion", [&] { WriteToIni("FILEVERSION", value); });
+    Write(kFileVersion, value, "Write_FileVersion");
 }
-
 std::string cIni_Application::Read_AppVersion() const {
-    return mError::WithTrail("cIni_Application.Read_AppVersion",
-                             [&] { return ReadFromIni("APPVERSION", "1"); });
+    return Read(kAppVersion, "Read_AppVersion");
 }
-
 void cIni_Application::Write_AppVersion(const std::string& value) const {
-    mError::WithTrail("cIni_Application.Write_AppVersion", [&] { WriteToIni("APPVERSION", value); });
+    Write(kAppVersion, value, "Write_AppVersion");
 }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/mString.h"
 #include "error/mError.h"
 #include "storage/mIni.h"
 
@@ -60,6 +61,40 @@ void cIni_Base::WriteIntegerToIni(std::string_view key, int16_t value) const try
     mIni::WriteToIni(Arg(IniPath()), m_section, key, std::to_string(value));
 } catch (...) {
     mError::PassOn(Procedure("WriteIntegerToIni"));
+}
+
+template <class Body>
+auto cIni_Base::Traced(const char* procedure, Body&& body) const -> decltype(body()) {
+    try {
+        return body();
+    } catch (...) {
+        mError::PassOn(Procedure(procedure));
+    }
+}
+
+std::string cIni_Base::Read(const IniKey<const char*>& key, const char* procedure) const {
+    return Traced(procedure, [&] { return ReadFromIni(key.name, key.defaultValue); });
+}
+
+bool cIni_Base::Read(const IniKey<bool>& key, const char* procedure) const {
+    return Traced(procedure, [&] { return ReadBoolFromIni(key.name, key.defaultValue); });
+}
+
+int16_t cIni_Base::Read(const IniKey<int16_t>& key, const char* procedure) const {
+    return Traced(procedure,
+                  [&] { return mString::ToInt16(ReadIntegerFromIni(key.name, key.defaultValue)); });
+}
+
+void cIni_Base::Write(const IniKey<const char*>& key, const std::string& value, const char* procedure) const {
+    Traced(procedure, [&] { WriteToIni(key.name, value); });
+}
+
+void cIni_Base::Write(const IniKey<bool>& key, bool value, const char* procedure) const {
+    Traced(procedure, [&] { WriteBoolToIni(key.name, value); });
+}
+
+void cIni_Base::Write(const IniKey<int16_t>& key, int16_t value, const char* procedure) const {
+    Traced(procedure, [&] { WriteIntegerToIni(key.name, value); });
 }
 
 iniFile::Update cIni_Base::BeginSave() const {

@@ -9,6 +9,14 @@
 
 #include "storage/iniFile.h"
 
+// One key of a section, declared once: its name in the file, its type, and the default a read gives when
+// the key is missing. Text keys have `const char*` defaults, integers are 16-bit.
+template <class T>
+struct IniKey {
+    const char* name;
+    T defaultValue;
+};
+
 class cIni_Base {
 public:
     // Where the settings file is: the application installs a source that names its file, or nothing while
@@ -31,6 +39,15 @@ protected:
     std::string ReadIntegerFromIni(std::string_view key, int16_t defaultValue) const;
     void WriteIntegerToIni(std::string_view key, int16_t value) const;
 
+    // The typed key operations: each reads or writes one key and puts "module.procedure" on the trail of a
+    // failure. An integer that is no number or does not fit 16 bits fails its read (13 and 6).
+    std::string Read(const IniKey<const char*>& key, const char* procedure) const;
+    bool Read(const IniKey<bool>& key, const char* procedure) const;
+    int16_t Read(const IniKey<int16_t>& key, const char* procedure) const;
+    void Write(const IniKey<const char*>& key, const std::string& value, const char* procedure) const;
+    void Write(const IniKey<bool>& key, bool value, const char* procedure) const;
+    void Write(const IniKey<int16_t>& key, int16_t value, const char* procedure) const;
+
     void SetSection(std::string section) { m_section = std::move(section); }
     const std::string& Section() const { return m_section; }
 
@@ -38,6 +55,10 @@ protected:
     std::string Procedure(const char* name) const { return m_module + "." + name; }
 
 private:
+    // Runs `body` and passes a failure on with "module.procedure" in front of its trail.
+    template <class Body>
+    auto Traced(const char* procedure, Body&& body) const -> decltype(body());
+
     // The settings file the installed source names; absent when there is none.
     static std::optional<std::string> IniPath();
 

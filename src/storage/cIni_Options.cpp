@@ -1,31 +1,30 @@
 #include "storage/cIni_Options.h"
 
-#include "error/mError.h"
+namespace {
+
+constexpr IniKey<const char*> kLanguage{"LANGUAGE", "EN"};
+constexpr IniKey<const char*> kEditorPath{"EDITORPATH", ""};
+constexpr IniKey<bool> kShowStartTarvolinDialog{"STARTTARVOLINDIALOG", true};
+
+}  // namespace
 
 cIni_Options::cIni_Options() : cIni_Base("cIni_Options", "OPTIONS") {}
 
 void cIni_Options::Write_Language(const std::string& value) const {
-    mError::WithTrail("cIni_Options.Write_Language", [&] { WriteToIni("LANGUAGE", value); });
+    Write(kLanguage, value, "Write_Language");
 }
-
 std::string cIni_Options::Read_Language() const {
-    return mError::WithTrail("cIni_Options.Read_Language", [&] { return ReadFromIni("LANGUAGE", "EN"); });
+    return Read(kLanguage, "Read_Language");
 }
-
 void cIni_Options::Write_EditorPath(const std::string& value) const {
-    mError::WithTrail("cIni_Options.Write_EditorPath", [&] { WriteToIni("EDITORPATH", value); });
+    Write(kEditorPath, value, "Write_EditorPath");
 }
-
 std::string cIni_Options::Read_EditorPath() const {
-    return mError::WithTrail("cIni_Options.Read_EditorPath", [&] { return ReadFromIni("EDITORPATH", ""); });
+    return Read(kEditorPath, "Read_EditorPath");
 }
-
 void cIni_Options::Write_ShowStartTarvolinDialog(bool value) const {
-    mError::WithTrail("cIni_Options.Write_ShowStartTarvolinDialog",
-                      [&] { WriteBoolToIni("STARTTARVOLINDIALOG", value); });
+    Write(kShowStartTarvolinDialog, value, "Write_ShowStartTarvolinDialog");
 }
-
 bool cIni_Options::Read_ShowStartTarvolinDialog() const {
-    return mError::WithTrail("cIni_Options.Read_ShowStartTarvolinDialog",
-                             [&] { return ReadBoolFromIni("STARTTARVOLINDIALOG", true); });
+    return Read(kShowStartTarvolinDialog, "Read_ShowStartTarvolinDialog");
 }

@@ -1,16 +1,18 @@
 #include "storage/cIni_Profiles.h"
 
-#include "error/mError.h"
+namespace {
+
+// The default is the standard profile's fixed section name, never a translation.
+constexpr IniKey<const char*> kActiveProfileName{"LASTACTIVEPROFILE", "PROFILE_DEFAULT"};
+
+}  // namespace
 
 cIni_Profiles::cIni_Profiles() : cIni_Base("cIni_Profiles", "PROFILES") {}
 
 void cIni_Profiles::Write_ActiveProfileName(const std::string& value) const {
-    mError::WithTrail("cIni_Profiles.Write_ActiveProfileName",
-                      [&] { WriteToIni("LASTACTIVEPROFILE", value); });
+    Write(kActiveProfileName, value, "Write_ActiveProfileName");
 }
 
 std::string cIni_Profiles::Read_ActiveProfileName() const {
-    // The default is the standard profile's fixed section name, never a translation.
-    return mError::WithTrail("cIni_Profiles.Read_ActiveProfileName",
-                             [&] { return ReadFromIni("LASTACTIVEPROFILE", "PROFILE_DEFAULT"); });
+    return Read(kActiveProfileName, "Read_ActiveProfileName");
 }
