@@ -33,11 +33,11 @@ std::string Options::Language() const {
     return mString::UCase(m_language);
 }
 
-void Options::SetLanguage(const std::string& value) {
-    std::string upper = mString::UCase(value);
-    if (upper == m_language)
+void Options::SetLanguage(std::string& value) {
+    value = mString::UCase(value);
+    if (value == m_language)
         return;
-    m_language = upper;
+    m_language = value;
     m_dataChanged = true;
 }
 

@@ -20,9 +20,9 @@ public:
     const std::string& EditorPath() const { return m_editorPath; }
     void SetEditorPath(const std::string& value);
 
-    // The language abbreviation, always in upper case.
+    // The language abbreviation, always in upper case. The setter upper-cases the caller's text too.
     std::string Language() const;
-    void SetLanguage(const std::string& value);
+    void SetLanguage(std::string& value);
 
     bool ShowStartTarvolinDialog() const { return m_showStartTarvolinDialog; }
     void SetShowStartTarvolinDialog(bool value);

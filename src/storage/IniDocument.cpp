@@ -204,7 +204,15 @@ bool IniDocument::DeleteSection(std::string_view section) {
     auto found = m_firstSection.find(mString::LCase(section));
     if (found == m_firstSection.end())
         return false;
-    m_sections.erase(m_sections.begin() + static_cast<std::ptrdiff_t>(found->second));
+    // As on Windows, the header and the key lines go; the comments written inside the section stay where
+    // they were, now at the end of the section before it.
+    const auto deleted = m_sections.begin() + static_cast<std::ptrdiff_t>(found->second);
+    std::vector<Line>& before = std::prev(deleted)->lines;
+    for (Line& line : deleted->lines) {
+        if (TrimBlanks(line.text).starts_with(';'))
+            before.push_back(std::move(line));
+    }
+    m_sections.erase(deleted);
     Reindex();
     return true;
 }

@@ -36,7 +36,9 @@ TEST_F(OptionsTest, LowerCaseLanguageIsUsedInUpperCaseAndSavedUnchanged) {
 TEST_F(OptionsTest, OnlyRealChangesCount) {
     WriteIni("[OPTIONS]\r\nLANGUAGE=DE\r\nEDITORPATH=/usr/bin/kate\r\n");
     options.LoadData();
-    options.SetLanguage("de");
+    std::string language = "de";
+    options.SetLanguage(language);
+    EXPECT_EQ(language, "DE");
     options.SetEditorPath("/usr/bin/kate");
     options.SetShowStartTarvolinDialog(true);
     EXPECT_FALSE(options.DataChanged());
@@ -46,7 +48,8 @@ TEST_F(OptionsTest, OnlyRealChangesCount) {
 
 TEST_F(OptionsTest, SaveWritesTheChangedValues) {
     options.LoadData();
-    options.SetLanguage("de");
+    std::string language = "de";
+    options.SetLanguage(language);
     options.SetEditorPath("/opt/editor");
     options.SetShowStartTarvolinDialog(false);
     options.SaveData();

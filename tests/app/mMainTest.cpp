@@ -50,7 +50,7 @@ TEST_F(mMainTest, EditorChooserProposesTheSystemsWriteProgram) {
     EXPECT_EQ(mMain::AskForEditorPath(""), Native("/opt/windows/write.exe"));
     platform.windowsDirectory = Native("/opt/windows/");
     EXPECT_EQ(mMain::AskForEditorPath(dir.File("missing")), Native("/opt/windows/write.exe"));
-    g_cApp->Options().SetLanguage("DE");
+    UseLanguage("DE");
     mMain::AskForEditorPath("");
     EXPECT_EQ(ui.fileRequests.back().filter, "Programme (*.exe)|*.exe");
     EXPECT_EQ(ui.fileRequests.back().title, "Texteditor auswählen");

@@ -64,7 +64,7 @@ TEST_F(ProfileLaunchTest, AGameThatCannotStartIsExplained) {
                   g_cTranslate->TranslateEx("ERROR_MESSAGES", key, profile.TarvolinPath()));
         EXPECT_NE(ui.messages[0].prompt.find(Native("/games/Tar volin/tarvolin.exe")), std::string::npos);
     }
-    g_cApp->Options().SetLanguage("DE");
+    UseLanguage("DE");
     profile.StartTarvolin(0);
     EXPECT_NE(ui.messages.back().prompt.find("Wine"), std::string::npos);
     EXPECT_EQ(ui.messages.back().prompt.find("please install"), std::string::npos) << "shown in German";

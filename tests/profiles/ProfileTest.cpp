@@ -183,7 +183,7 @@ TEST_F(ProfileTest, SettingsTextDescribesTheProfileInTheChosenLanguage) {
     EXPECT_EQ(profile.GetSettingsListAsText(),
               "Freeplay: No\r\nLog messages: Yes\r\nRefresh: Standard (60 Hz)\r\n"
               "Graphic pak: standard graphic pak\r\nScenario: none\r\nResolution: 800 x 600");
-    g_cApp->Options().SetLanguage("de");
+    UseLanguage("de");
     profile.SetUsePreDefinedResolution(false);
     profile.SetResolutionWidth(1600);
     profile.SetResolutionHeight(900);

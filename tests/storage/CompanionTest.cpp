@@ -43,7 +43,7 @@ TEST_F(CompanionTest, FreshProgramFolderGivesTheDefaults) {
 TEST_F(CompanionTest, OtherSectionsLandUnderTheirNames) {
     WriteIni("; keep me\r\n");
     cIni_Profiles().Write_ActiveProfileName("profile_Race");
-    g_cApp->Options().SetLanguage("de");
+    UseLanguage("de");
     g_cApp->Options().SetEditorPath("/usr/bin/gedit");
     g_cApp->Options().SetShowStartTarvolinDialog(false);
     g_cApp->SaveAppSettings();

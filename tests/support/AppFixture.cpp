@@ -42,3 +42,7 @@ std::string AppFixture::ReadIni() const {
 void AppFixture::WriteLanguage(const std::string& abbrev, const std::string& content) const {
     dir.Write("config/LNG_" + abbrev + ".ini", content);
 }
+
+void AppFixture::UseLanguage(std::string abbrev) {
+    g_cApp->Options().SetLanguage(abbrev);
+}

@@ -20,6 +20,9 @@ protected:
     void WriteIni(const std::string& content) const;
     std::string ReadIni() const;
 
+    // Chooses the language of the texts, as the language menu does.
+    static void UseLanguage(std::string abbrev);
+
     // Writes config/LNG_<abbrev>.ini of the program folder.
     void WriteLanguage(const std::string& abbrev, const std::string& content) const;
 

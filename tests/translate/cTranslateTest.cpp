@@ -26,7 +26,7 @@ protected:
 };
 
 TEST_F(cTranslateTest, ChosenLanguageThenEnglishThenMarker) {
-    g_cApp->Options().SetLanguage("de");
+    UseLanguage("de");
     EXPECT_EQ(T("GLOBAL", "BTN_YES"), "Ja");
     EXPECT_EQ(T("GLOBAL", "ONLY_EN"), "English only");
     EXPECT_EQ(T("GLOBAL", "BLANK"), "English");
@@ -35,15 +35,15 @@ TEST_F(cTranslateTest, ChosenLanguageThenEnglishThenMarker) {
 }
 
 TEST_F(cTranslateTest, LanguageChangeShowsWithTheNextText) {
-    g_cApp->Options().SetLanguage("DE");
+    UseLanguage("DE");
     EXPECT_EQ(g_cTranslate->TranslateBool_YesNo(true), "Ja");
-    g_cApp->Options().SetLanguage("EN");
+    UseLanguage("EN");
     EXPECT_EQ(g_cTranslate->TranslateBool_YesNo(true), "Yes");
     EXPECT_EQ(g_cTranslate->TranslateBool_YesNo(false), "No");
 }
 
 TEST_F(cTranslateTest, MissingLanguageFileFallsBackToEnglish) {
-    g_cApp->Options().SetLanguage("FR");
+    UseLanguage("FR");
     EXPECT_EQ(T("GLOBAL", "BTN_No"), "No");
     std::filesystem::remove(dir.File("config/LNG_EN.ini"));
     EXPECT_EQ(T("GLOBAL", "BTN_No"), "<NO TEXT AVAILABLE>");

@@ -70,7 +70,8 @@ void QuietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 }
 
 void RenderLanguage(ScreenshotSession& session, const char* abbrev) {
-    g_cApp->Options().SetLanguage(abbrev);
+    std::string language = abbrev;
+    g_cApp->Options().SetLanguage(language);
     session.SetLanguage(QString::fromLatin1(abbrev));
     Scenes::RenderDialogs(session);
     Scenes::RenderControls(session);

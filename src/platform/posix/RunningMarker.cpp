@@ -5,17 +5,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <chrono>
 #include <cstdlib>
-#include <thread>
 
 namespace platform {
 
 namespace {
-
-constexpr int kLockAttempts = 20;
-constexpr std::chrono::milliseconds kLockRetryPause{5};
 
 bool IsUsableName(const std::string& name) {
     return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
@@ -28,18 +22,6 @@ std::string RuntimeDirectory() {
     if (value == nullptr || value[0] != '/' || stat(value, &status) != 0 || !S_ISDIR(status.st_mode))
         return {};
     return value;
-}
-
-// A tester's exclusive lock lasts only as long as its test, so a few short retries outwait it.
-bool LockShared(int fd) {
-    for (int attempt = 0; attempt < kLockAttempts; ++attempt) {
-        if (flock(fd, LOCK_SH | LOCK_NB) == 0)
-            return true;
-        if (errno != EWOULDBLOCK && errno != EINTR)
-            return false;
-        std::this_thread::sleep_for(kLockRetryPause);
-    }
-    return false;
 }
 
 }  // namespace
@@ -62,7 +44,8 @@ bool HoldRunningMarker(const std::string& name) {
     const int fd = open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY, 0644);
     if (fd < 0)
         return false;
-    if (LockShared(fd))
+    // Never waits: while an installer's test holds the lock for a moment, this copy simply goes unmarked.
+    if (flock(fd, LOCK_SH | LOCK_NB) == 0)
         return true;
     close(fd);
     return false;

@@ -31,7 +31,7 @@ protected:
 };
 
 TEST_F(frmStartingTarvolinTest, TextsComeFromTheDialogsSectionAndGlobal) {
-    g_cApp->Options().SetLanguage("DE");
+    UseLanguage("DE");
     frmStartingTarvolin german;
     german.InitDialog(profile);
     EXPECT_EQ(german.windowTitle(), "Tarvolin starten");

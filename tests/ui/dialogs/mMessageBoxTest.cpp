@@ -74,12 +74,12 @@ class TranslatedMessageBox : public AppFixture {};
 
 // The buttons the language files name follow the chosen language; the others keep Qt's words.
 TEST_F(TranslatedMessageBox, ButtonsSpeakTheChosenLanguage) {
-    g_cApp->Options().SetLanguage("DE");
+    UseLanguage("DE");
     const auto box = mMessageBox::Create("Frage", vbYesNoCancel, nullptr);
     EXPECT_EQ(box->button(MB::Yes)->text(), "Ja");
     EXPECT_EQ(box->button(MB::No)->text(), "Nein");
     EXPECT_EQ(box->button(MB::Cancel)->text(), "Abbrechen");
-    g_cApp->Options().SetLanguage("EN");
+    UseLanguage("EN");
     EXPECT_EQ(mMessageBox::Create("Question", vbOKOnly, nullptr)->button(MB::Ok)->text(), "OK");
 }
 
