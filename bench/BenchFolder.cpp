@@ -26,6 +26,7 @@ public:
     }
     std::string SpecialFolder(int32_t) override { return {}; }
     std::string WindowsDirectory() override { return "/usr/bin"; }
+    std::string TextEditorName() override { return "write.exe"; }
     bool CreateNamedMutex(const std::string&) override { return true; }
 
 private:

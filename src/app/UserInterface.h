@@ -1,5 +1,7 @@
 // The only way core reaches the person in front of the screen. Production installs the Qt implementation
 // once at start; tests install a recording fake; without either, a console fallback answers.
+// It holds only the windows that core itself opens. The options, update, about and shortcut-wizard windows
+// are opened by the main window inside the window library and do not belong here.
 #pragma once
 
 #include <cstdint>

@@ -48,7 +48,7 @@ std::string AskForTarvoPath(const std::string& current) try {
 std::string AskForEditorPath(const std::string& current) try {
     std::string proposal = current;
     if (!mPath::FileExists(current))
-        proposal = mPath::AddOrRemoveBackslash(Os().WindowsDirectory(), true) + "write.exe";
+        proposal = mPath::AddOrRemoveBackslash(Os().WindowsDirectory(), true) + Os().TextEditorName();
     return AskForProgram(proposal, "SELECT_TEXTEDITOR_DIALOG");
 } catch (...) {
     mError::PassOn("mMain.AskForTarvoPath");

@@ -12,7 +12,8 @@ void ClosePublicObjects();
 // "tarvolin.exe"; a cancelled chooser returns the proposal, so callers check the result before using it.
 std::string AskForTarvoPath(const std::string& current);
 
-// The same for the text editor; the proposal for a missing `current` is the system's "write.exe".
+// The same for the text editor; the proposal for a missing `current` is the system's text editor in its
+// Windows directory ("write.exe" on Windows; an installed editor on Linux, see Platform::TextEditorName).
 std::string AskForEditorPath(const std::string& current);
 
 // "product name product version" of the game's program file, or "Tarvolin" when it has none.

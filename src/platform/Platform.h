@@ -47,6 +47,9 @@ public:
     // The folder that holds the system's own programs (the Windows directory).
     virtual std::string WindowsDirectory() = 0;
 
+    // The file name, inside WindowsDirectory(), of the text editor proposed for the game's log file.
+    virtual std::string TextEditorName() = 0;
+
     // Creates the named marker that other programs (an installer) test to see that the launcher runs. It
     // lives until the process ends; a second copy of the program creates it again without harm. Returns
     // false when it could not be created.

@@ -1,5 +1,7 @@
 #include "profiles/Profile.h"
 
+#include <algorithm>
+
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/UserInterface.h"
@@ -7,6 +9,7 @@
 #include "base/mString.h"
 #include "error/mError.h"
 #include "platform/Platform.h"
+#include "storage/mIni.h"
 #include "translate/cTranslate.h"
 
 namespace {
@@ -34,9 +37,19 @@ void Profile::SetProfileName(const std::string& value) {
     m_settings.SetProfileName(value);
 }
 
+bool Profile::IsStorableCaption(const std::string& caption) {
+    const std::size_t longest = mIni::kReadBufferSize - 1 - std::string_view(kNamePrefix).size();
+    if (caption.empty() || caption.size() > longest || mString::TrimView(caption, " \t") != caption)
+        return false;
+    return std::none_of(caption.begin(), caption.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte < 0x20 || byte == 0x7F || c == ']' || c == ';' || c == '=';
+    });
+}
+
 std::string Profile::ProfileCaption() const {
-    if (mString::StartsWithNoCase(m_profileName, "profile_"))
-        return m_profileName.substr(8);
+    if (mString::StartsWithNoCase(m_profileName, kNamePrefix))
+        return m_profileName.substr(std::string_view(kNamePrefix).size());
     return m_profileName;
 }
 

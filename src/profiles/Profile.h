@@ -24,6 +24,14 @@ public:
     // The name as users see it: without a leading "profile_" in any case.
     std::string ProfileCaption() const;
 
+    // The prefix of every profile's section name.
+    static constexpr const char* kNamePrefix = "profile_";
+
+    // True when the caption, behind the prefix, makes a section name that comes back from the settings file
+    // unchanged: no "]" (it ends the header), ";" (it separates profile lists), "=", line break or other
+    // control character, no blanks at either end, and not longer than a read gives back.
+    static bool IsStorableCaption(const std::string& caption);
+
     // Reads every setting from the profile's section. A resolution ID below 1 is replaced by 1 after a
     // warning and counts as a change. Always returns false.
     bool LoadData();

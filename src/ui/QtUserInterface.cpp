@@ -4,14 +4,14 @@
 #include <QClipboard>
 
 #include "ui/QtText.h"
+#include "ui/dialogs/ModalDialog.h"
+#include "ui/dialogs/frmEditProfile.h"
 #include "ui/dialogs/frmError.h"
+#include "ui/dialogs/frmLoadProfile.h"
+#include "ui/dialogs/frmSave.h"
 #include "ui/dialogs/frmStartingTarvolin.h"
 #include "ui/dialogs/mFileChooser.h"
 #include "ui/dialogs/mMessageBox.h"
-
-void QtUserInterface::RunModal(QDialog& dialog) {
-    dialog.exec();
-}
 
 int QtUserInterface::MsgBox(const std::string& prompt, int style) {
     const std::unique_ptr<QMessageBox> box = mMessageBox::Create(prompt, style, QApplication::activeWindow());
@@ -22,7 +22,7 @@ int QtUserInterface::MsgBox(const std::string& prompt, int style) {
 void QtUserInterface::ShowErrorReport(const ErrorReport& report) {
     frmError dialog(QApplication::activeWindow());
     dialog.InitDialog(report);
-    RunModal(dialog);
+    dialog.ShowModal();
 }
 
 OpenFileAnswer QtUserInterface::ChooseFileToOpen(const OpenFileOptions& options) {
@@ -44,9 +44,29 @@ void QtUserInterface::SetClipboardText(const std::string& text) {
     QGuiApplication::clipboard()->setText(QtText::ToQt(text));
 }
 
+bool QtUserInterface::ShowEditProfileDialog(int32_t editMode, Profile& profile) {
+    frmEditProfile dialog(QApplication::activeWindow());
+    dialog.InitDialog(editMode, profile);
+    dialog.ShowModal();
+    return !dialog.Cancel();
+}
+
+Profile* QtUserInterface::ShowLoadProfileDialog() {
+    frmLoadProfile dialog(QApplication::activeWindow());
+    dialog.InitDialog();
+    dialog.ShowModal();
+    return dialog.Cancel() ? nullptr : dialog.SelectedProfile();
+}
+
+void QtUserInterface::ShowSaveDialog() {
+    frmSave dialog(QApplication::activeWindow());
+    dialog.InitDialog();
+    dialog.ShowModal();
+}
+
 bool QtUserInterface::ShowStartTarvolinDialog(Profile& profile) {
     frmStartingTarvolin dialog(QApplication::activeWindow());
     dialog.InitDialog(profile);
-    RunModal(dialog);
+    dialog.ShowModal();
     return !dialog.Cancel();
 }

@@ -193,4 +193,11 @@ TEST_F(PosixPlatformTest, AFileThatCannotBeStartedGetsTheShellsCode) {
     }
 }
 
+// The options window proposes this editor for the log file: it must be there to be started.
+TEST(TextEditorTest, TheProposedEditorIsAnInstalledProgram) {
+    PosixPlatform platform;
+    const std::string editor = platform.WindowsDirectory() + "/" + platform.TextEditorName();
+    EXPECT_EQ(access(editor.c_str(), X_OK), 0) << editor;
+}
+
 }  // namespace

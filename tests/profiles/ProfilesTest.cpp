@@ -137,4 +137,23 @@ TEST_F(ProfilesTest, NewProfileWithATakenNameIsRefused) {
     EXPECT_EQ(g_cApp->ActiveProfile(), nullptr);
 }
 
+// Every caption the edit window lets through comes back from the settings file as the same profile; the
+// window refuses the others.
+TEST_F(ProfilesTest, StorableCaptionsComeBackUnchanged) {
+    const std::string longest(246, 'x');
+    for (const std::string& caption : {std::string("Race"), std::string("Größe (2) [x"), longest}) {
+        EXPECT_TRUE(Profile::IsStorableCaption(caption)) << caption;
+        Profile saved;
+        saved.SetProfileName(Profile::kNamePrefix + caption);
+        saved.SetProfileDescription("d " + caption);
+        saved.SaveData();
+    }
+    profiles.LoadData();
+    for (const std::string& caption : {std::string("Race"), std::string("Größe (2) [x"), longest})
+        EXPECT_EQ(profiles.Item(Profile::kNamePrefix + caption).ProfileDescription(), "d " + caption);
+    for (const char* refused : {"", " Race", "Race ", "a]b", "a;b", "a=b", "a\r\nb", "a\tb", "a\x7F"})
+        EXPECT_FALSE(Profile::IsStorableCaption(refused)) << refused;
+    EXPECT_FALSE(Profile::IsStorableCaption(longest + "x"));
+}
+
 }  // namespace

@@ -28,6 +28,7 @@ public:
                       int32_t showCommand) override;
     std::string SpecialFolder(int32_t csidl) override;
     std::string WindowsDirectory() override { return windowsDirectory; }
+    std::string TextEditorName() override { return "write.exe"; }
     bool CreateNamedMutex(const std::string& name) override;
 
     std::vector<ShellCall> calls;

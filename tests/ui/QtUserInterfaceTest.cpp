@@ -24,14 +24,12 @@ TEST(QtText, RoundTripsNonAsciiText) {
 
 // A box closed without a button answers with its escape button or, where it has none, its default one.
 TEST_F(QtUserInterfaceTest, MsgBoxAnswersWithTheButtonThatClosedIt) {
-    qtUi.answer = [](QDialog& dialog) {
-        dynamic_cast<QMessageBox&>(dialog).button(QMessageBox::No)->click();
-    };
+    answer = [](QDialog& dialog) { dynamic_cast<QMessageBox&>(dialog).button(QMessageBox::No)->click(); };
     EXPECT_EQ(Ui().MsgBox("Really?", vbYesNo), vbNo);
-    qtUi.answer = nullptr;
+    answer = nullptr;
     EXPECT_EQ(Ui().MsgBox("Continue?", vbYesNoCancel), vbCancel);
     EXPECT_EQ(Ui().MsgBox("Overwrite?", vbYesNo | vbDefaultButton2), vbNo);
-    EXPECT_EQ(qtUi.modalWindows, 3);
+    EXPECT_EQ(modalWindows, 3);
 }
 
 TEST_F(QtUserInterfaceTest, ClipboardTakesTheTextUnchanged) {
@@ -42,7 +40,7 @@ TEST_F(QtUserInterfaceTest, ClipboardTakesTheTextUnchanged) {
 // A failure that reaches an entry point opens the report window, with the whole report in it.
 TEST_F(QtUserInterfaceTest, ShowErrorOpensTheReportWindow) {
     QString shown;
-    qtUi.answer = [&](QDialog& dialog) {
+    answer = [&](QDialog& dialog) {
         shown = dialog.objectName() + "\n" + dialog.findChild<QPlainTextEdit*>("txtErrorNote")->toPlainText();
     };
     try {

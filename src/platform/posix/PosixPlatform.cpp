@@ -1,5 +1,7 @@
 #include "platform/posix/PosixPlatform.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <filesystem>
 #include <optional>
@@ -154,6 +156,17 @@ std::string PosixPlatform::SpecialFolder(int32_t csidl) {
 
 std::string PosixPlatform::WindowsDirectory() {
     return "/usr/bin";
+}
+
+std::string PosixPlatform::TextEditorName() {
+    static constexpr const char* kEditors[] = {
+        "gnome-text-editor", "gedit", "kate", "kwrite", "mousepad", "xed", "pluma", "geany", "featherpad"};
+    const std::string folder = WindowsDirectory() + "/";
+    for (const char* editor : kEditors) {
+        if (access((folder + editor).c_str(), X_OK) == 0)
+            return editor;
+    }
+    return "xdg-open";
 }
 
 bool PosixPlatform::CreateNamedMutex(const std::string& name) {

@@ -26,6 +26,10 @@ public:
     // The system's programs live in /usr/bin, so a program proposed from there exists.
     std::string WindowsDirectory() override;
 
+    // The first of the desktops' own text editors that is installed, else xdg-open, which opens the log
+    // file in whatever the desktop uses for text.
+    std::string TextEditorName() override;
+
     // A lock file held for the process's life (see RunningMarker.h for where it is and how to test it).
     bool CreateNamedMutex(const std::string& name) override;
 };

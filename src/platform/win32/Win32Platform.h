@@ -22,6 +22,9 @@ public:
     // GetWindowsDirectoryA into a 256-character buffer.
     std::string WindowsDirectory() override;
 
+    // WordPad's old name in the Windows directory.
+    std::string TextEditorName() override { return "write.exe"; }
+
     // CreateMutexA without initial ownership. The handle stays open until the process ends, and a mutex that
     // already exists (a second copy of the launcher) is as good as a new one.
     bool CreateNamedMutex(const std::string& name) override;

@@ -33,10 +33,8 @@ QString DialogText(const char* section, const char* key, const char* english) {
     return QtText::ToQt(g_cTranslate->TranslateEx(section, key));
 }
 
-QLabel* WrappedLabel(const QString& name, QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setWordWrap(true);
+// The texts of the report are worth copying, so every label of it can be selected.
+QLabel* SelectableLabel(QLabel* label) {
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
@@ -50,12 +48,6 @@ QPlainTextEdit* ReadOnlyText(const QString& name, QWidget* parent) {
     return text;
 }
 
-QPushButton* Button(const QString& name, QWidget* parent) {
-    auto* button = new QPushButton(parent);
-    button->setObjectName(name);
-    return button;
-}
-
 QHBoxLayout* RightAligned(QWidget* widget) {
     auto* row = new QHBoxLayout;
     row->addStretch();
@@ -65,8 +57,7 @@ QHBoxLayout* RightAligned(QWidget* widget) {
 
 }  // namespace
 
-frmError::frmError(QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmError"));
+frmError::frmError(QWidget* parent) : ModalDialog("frmError", parent) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(CreateHeader());
     layout->addLayout(CreateTabbedPages(), 1);
@@ -84,7 +75,7 @@ QWidget* frmError::CreateHeader() {
     lblIcon->setObjectName(QStringLiteral("lblIcon"));
     const int iconSize = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     lblIcon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxCritical, nullptr, this).pixmap(iconSize));
-    lblDescription = WrappedLabel(QStringLiteral("lblDescription"), header);
+    lblDescription = SelectableLabel(WrappedLabel("lblDescription", header));
     txtDescription = ReadOnlyText(QStringLiteral("txtDescription"), header);
     txtDescription->setMaximumHeight(fontMetrics().lineSpacing() * 3);
     lblDescription->setBuddy(txtDescription);
@@ -116,14 +107,14 @@ QWidget* frmError::CreateReportPage() {
     auto* page = new QWidget(this);
     page->setObjectName(QStringLiteral("picPage_0"));
     auto* layout = new QVBoxLayout(page);
-    lblNote = WrappedLabel(QStringLiteral("lblNote"), page);
+    lblNote = SelectableLabel(WrappedLabel("lblNote", page));
     txtErrorNote = ReadOnlyText(QStringLiteral("txtErrorNote"), page);
     txtErrorNote->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     txtErrorNote->setLineWrapMode(QPlainTextEdit::NoWrap);
     const QFontMetrics metrics(txtErrorNote->font());
     txtErrorNote->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('x')) * 64,
                                  metrics.lineSpacing() * 16);
-    cmdContact = Button(QStringLiteral("cmdContact"), page);
+    cmdContact = Button("cmdContact", page);
     connect(cmdContact, &QPushButton::clicked, this, &frmError::cmdContact_Click);
     layout->addWidget(lblNote);
     layout->addWidget(txtErrorNote, 1);
@@ -135,10 +126,10 @@ QWidget* frmError::CreateContactPage() {
     auto* page = new QWidget(this);
     page->setObjectName(QStringLiteral("picPage_1"));
     auto* layout = new QVBoxLayout(page);
-    lblContactInfo = WrappedLabel(QStringLiteral("lblContactInfo"), page);
-    lblAddress = WrappedLabel(QStringLiteral("lblAddress"), page);
+    lblContactInfo = SelectableLabel(WrappedLabel("lblContactInfo", page));
+    lblAddress = SelectableLabel(WrappedLabel("lblAddress", page));
     lblAddress->setText(QString::fromUtf8(Version::kContactEmail));
-    cmdDetails = Button(QStringLiteral("cmdDetails"), page);
+    cmdDetails = Button("cmdDetails", page);
     connect(cmdDetails, &QPushButton::clicked, this, &frmError::cmdDetails_Click);
     layout->addWidget(lblContactInfo);
     layout->addWidget(lblAddress);
@@ -151,9 +142,9 @@ QWidget* frmError::CreateButtonRow() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    cmdCopy = Button(QStringLiteral("cmdCopy"), row);
-    Command1 = Button(QStringLiteral("Command1"), row);
-    cmdClose = Button(QStringLiteral("cmdClose"), row);
+    cmdCopy = Button("cmdCopy", row);
+    Command1 = Button("Command1", row);
+    cmdClose = Button("cmdClose", row);
     cmdCopy->setDefault(true);
     connect(cmdCopy, &QPushButton::clicked, this, &frmError::cmdCopy_Click);
     connect(Command1, &QPushButton::clicked, this, &frmError::Command1_Click);

@@ -3,9 +3,8 @@
 // start-up); its texts are then the English ones.
 #pragma once
 
-#include <QDialog>
-
 #include "app/UserInterface.h"
+#include "ui/dialogs/ModalDialog.h"
 
 class QLabel;
 class QPlainTextEdit;
@@ -14,7 +13,7 @@ class QStackedWidget;
 class QTabBar;
 class QVBoxLayout;
 
-class frmError : public QDialog {
+class frmError : public ModalDialog {
     Q_OBJECT
 
 public:
@@ -43,7 +42,7 @@ private:
     QWidget* CreateContactPage();
     QWidget* CreateButtonRow();
     void SetTabOrder();
-    void TranslateDialog();
+    void TranslateDialog() override;
     void ShowPage(Page page);
 
     ErrorReport m_report;

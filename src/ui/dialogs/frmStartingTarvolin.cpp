@@ -19,16 +19,8 @@ namespace {
 
 constexpr const char* kSection = "START_TARVOLIN_DIALOG";
 
-QLabel* WrappedLabel(const QString& name, QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setWordWrap(true);
-    return label;
-}
-
 // The command line can be long and is worth copying, so it is framed, wrapped and selectable.
-QLabel* CommandLineLabel(QWidget* parent) {
-    QLabel* label = WrappedLabel(QStringLiteral("lblInfo"), parent);
+QLabel* CommandLineLabel(QLabel* label) {
     label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     label->setFrameShape(QFrame::StyledPanel);
     label->setMargin(label->fontMetrics().averageCharWidth());
@@ -39,12 +31,11 @@ QLabel* CommandLineLabel(QWidget* parent) {
 
 }  // namespace
 
-frmStartingTarvolin::frmStartingTarvolin(QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmStartingTarvolin"));
+frmStartingTarvolin::frmStartingTarvolin(QWidget* parent) : ModalDialog("frmStartingTarvolin", parent) {
     auto* layout = new QVBoxLayout(this);
-    lblCaption = WrappedLabel(QStringLiteral("lblCaption"), this);
-    lblInfo = CommandLineLabel(this);
-    lblWarning = WrappedLabel(QStringLiteral("lblWarning"), this);
+    lblCaption = WrappedLabel("lblCaption");
+    lblInfo = CommandLineLabel(WrappedLabel("lblInfo"));
+    lblWarning = WrappedLabel("lblWarning");
     ckDontShowThisDialogAgain = new QCheckBox(this);
     ckDontShowThisDialogAgain->setObjectName(QStringLiteral("ckDontShowThisDialogAgain"));
     layout->addWidget(lblCaption);
@@ -52,31 +43,22 @@ frmStartingTarvolin::frmStartingTarvolin(QWidget* parent) : QDialog(parent) {
     layout->addWidget(lblWarning);
     layout->addSpacing(fontMetrics().height() / 2);
     layout->addWidget(ckDontShowThisDialogAgain);
-    layout->addWidget(CreateButtonRow());
+    layout->addLayout(CreateButtonRow());
     setMinimumWidth(fontMetrics().averageCharWidth() * 60);
 }
 
-QWidget* frmStartingTarvolin::CreateButtonRow() {
-    auto* row = new QWidget(this);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    cmdOk = new QPushButton(row);
-    cmdOk->setObjectName(QStringLiteral("cmdOk"));
-    cmdOk->setDefault(true);
-    cmdCancel = new QPushButton(row);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+QLayout* frmStartingTarvolin::CreateButtonRow() {
+    cmdOk = Button("cmdOk");
+    cmdCancel = Button("cmdCancel");
     connect(cmdOk, &QPushButton::clicked, this, &frmStartingTarvolin::cmdOk_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmStartingTarvolin::cmdCancel_Click);
-    layout->addStretch();
-    layout->addWidget(cmdOk);
-    layout->addWidget(cmdCancel);
-    return row;
+    return ButtonRow({cmdOk, cmdCancel});
 }
 
 void frmStartingTarvolin::InitDialog(const Profile& oProfile) try {
     lblInfo->setText(QtText::ToQt(oProfile.GetCmdLineParameters()));
     TranslateDialog();
-    m_cancel = true;
+    ResetCancel();
     cmdOk->setFocus();
 } catch (...) {
     mError::PassOn("frmStartingTarvolin.InitDialog");
@@ -102,8 +84,7 @@ void frmStartingTarvolin::TranslateDialog() try {
 
 void frmStartingTarvolin::cmdOk_Click() try {
     App().Options().SetShowStartTarvolinDialog(!ckDontShowThisDialogAgain->isChecked());
-    m_cancel = false;
-    accept();
+    Confirm();
 } catch (...) {
     mError::ShowError("frmStartingTarvolin.cmdOk_Click");
 }

@@ -2,15 +2,17 @@
 // resolution, and the choice to skip this window from now on.
 #pragma once
 
-#include <QDialog>
 #include <string>
 
+#include "ui/dialogs/ModalDialog.h"
+
 class QCheckBox;
+class QLayout;
 class QLabel;
 class QPushButton;
 class Profile;
 
-class frmStartingTarvolin : public QDialog {
+class frmStartingTarvolin : public ModalDialog {
     Q_OBJECT
 
 public:
@@ -18,10 +20,7 @@ public:
 
     void InitDialog(const Profile& oProfile);
 
-    // True unless the window was left with OK.
-    bool Cancel() const { return m_cancel; }
-
-    void TranslateDialog();
+    void TranslateDialog() override;
     std::string TranslateDialogItem(const std::string& key) const;
 
 private slots:
@@ -29,7 +28,7 @@ private slots:
     void cmdCancel_Click();
 
 private:
-    QWidget* CreateButtonRow();
+    QLayout* CreateButtonRow();
 
     QLabel* lblCaption;
     QLabel* lblInfo;
@@ -37,5 +36,4 @@ private:
     QCheckBox* ckDontShowThisDialogAgain;
     QPushButton* cmdOk;
     QPushButton* cmdCancel;
-    bool m_cancel = true;
 };

@@ -1,8 +1,11 @@
-// The widget tests' program folder: the AppFixture's fakes, program-wide objects and language files, and a Qt
-// user interface whose modal windows the test answers instead of a person.
+// The widget tests' program folder: the AppFixture's fakes, program-wide objects and language files, and the
+// Qt user interface, whose modal windows the test answers instead of a person.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QDialog>
+#include <QPushButton>
 #include <functional>
 
 #include "app/Application.h"
@@ -11,25 +14,33 @@
 #include "translate/cTranslate.h"
 #include "ui/QtText.h"
 #include "ui/QtUserInterface.h"
+#include "ui/dialogs/ModalDialog.h"
 
-// Runs `answer` where the modal loop would start; a window nobody answers ends as if it was cancelled.
-class ScriptedQtUserInterface : public QtUserInterface {
-public:
-    std::function<void(QDialog&)> answer;
-    int modalWindows = 0;
-
-protected:
-    void RunModal(QDialog& dialog) override {
-        ++modalWindows;
-        if (answer)
-            answer(dialog);
-    }
-};
+// The control `name` of a window, failing the test when there is none.
+template <class T = QPushButton>
+T* Find(const QWidget& window, const char* name) {
+    T* found = window.findChild<T*>(name);
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
 
 class UiFixture : public AppFixture {
 protected:
-    UiFixture() { InstallUserInterface(&qtUi); }
-    ~UiFixture() override { InstallUserInterface(&ui); }
+    UiFixture() {
+        InstallUserInterface(&qtUi);
+        // Runs `answer` where the modal loop would start; a window nobody answers ends as if cancelled.
+        InstallModalRunner([this](QDialog& dialog) {
+            ++modalWindows;
+            if (answer)
+                answer(dialog);
+        });
+    }
+    ~UiFixture() override {
+        InstallModalRunner(nullptr);
+        InstallUserInterface(&ui);
+    }
 
-    ScriptedQtUserInterface qtUi;
+    QtUserInterface qtUi;
+    std::function<void(QDialog&)> answer;
+    int modalWindows = 0;
 };

@@ -12,11 +12,6 @@
 
 namespace {
 
-template <class T = QPushButton>
-T* Find(const QDialog& window, const char* name) {
-    return window.findChild<T*>(name);
-}
-
 class frmStartingTarvolinTest : public UiFixture {
 protected:
     frmStartingTarvolinTest() {
@@ -77,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(OptionAndCheckBox, StartWindowAnswers,
 // The window shows the profile's command line; a window closed without OK stops the start.
 TEST_F(frmStartingTarvolinTest, QtUserInterfaceReportsWhetherTheStartMayGoAhead) {
     const char* pressed = "cmdOk";
-    qtUi.answer = [&](QDialog& shown) {
+    answer = [&](QDialog& shown) {
         EXPECT_EQ(Find<QLabel>(shown, "lblInfo")->text(), QtText::ToQt(profile.GetCmdLineParameters()));
         EXPECT_TRUE(Find<QLabel>(shown, "lblInfo")->text().startsWith("-log -screensize 1024x768"));
         Find(shown, pressed)->click();
@@ -85,9 +80,9 @@ TEST_F(frmStartingTarvolinTest, QtUserInterfaceReportsWhetherTheStartMayGoAhead)
     EXPECT_TRUE(Ui().ShowStartTarvolinDialog(profile));
     pressed = "cmdCancel";
     EXPECT_FALSE(Ui().ShowStartTarvolinDialog(profile));
-    qtUi.answer = nullptr;
+    answer = nullptr;
     EXPECT_FALSE(Ui().ShowStartTarvolinDialog(profile));
-    EXPECT_EQ(qtUi.modalWindows, 3);
+    EXPECT_EQ(modalWindows, 3);
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ protected:
 
 // A proposal with a folder starts there, whatever the initial directory.
 TEST_F(FileChooserTest, ShowsEveryOptionAndAnswersTheChoice) {
-    qtUi.answer = [&](QDialog& dialog) {
+    answer = [&](QDialog& dialog) {
         auto& shown = dynamic_cast<QFileDialog&>(dialog);
         EXPECT_EQ(shown.windowTitle(), "Select Tarvolin");
         EXPECT_EQ(shown.fileMode(), QFileDialog::ExistingFile);
@@ -68,7 +68,7 @@ TEST_F(FileChooserTest, ShowsEveryOptionAndAnswersTheChoice) {
     };
     options.initialDirectory = dir.File("start");
     const OpenFileAnswer answer = Ui().ChooseFileToOpen(options);
-    EXPECT_EQ(qtUi.modalWindows, 1);
+    EXPECT_EQ(modalWindows, 1);
     EXPECT_EQ(answer.outcome, OpenFileAnswer::Outcome::kChosen);
     EXPECT_EQ(answer.files, std::vector<std::string>{dir.File("game/tarvolin.exe")});
 }
@@ -113,7 +113,7 @@ TEST_F(FileChooserTest, CancelChoosesNothingAndAReadOnlyProposalIsReportedBack) 
 }
 
 TEST_F(FileChooserTest, FolderChooserStartsInTheRootAndAnswersTheFolder) {
-    qtUi.answer = [&](QDialog& dialog) {
+    answer = [&](QDialog& dialog) {
         auto& shown = dynamic_cast<QFileDialog&>(dialog);
         EXPECT_EQ(shown.windowTitle(), "Select a Folder");
         EXPECT_EQ(shown.directory().absolutePath(), Path("start"));
@@ -123,9 +123,9 @@ TEST_F(FileChooserTest, FolderChooserStartsInTheRootAndAnswersTheFolder) {
         dialog.accept();
     };
     EXPECT_EQ(Ui().ChooseFolder(-1, "Select a Folder", dir.File("start")), dir.File("game"));
-    qtUi.answer = [](QDialog& dialog) { dialog.reject(); };
+    answer = [](QDialog& dialog) { dialog.reject(); };
     EXPECT_EQ(Ui().ChooseFolder(-1, "Select a Folder", dir.File("start")), "");
-    EXPECT_EQ(qtUi.modalWindows, 2);
+    EXPECT_EQ(modalWindows, 2);
 }
 
 TEST_F(FileChooserTest, OwnerIsOneOfOurWindowsOrNone) {

@@ -1,0 +1,124 @@
+#include "ui/dialogs/frmEditProfile.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/PublicObjects.h"
+#include "app/UserInterface.h"
+#include "error/mError.h"
+#include "profiles/Profile.h"
+#include "translate/cTranslate.h"
+#include "ui/QtText.h"
+#include "ui/dialogs/MnemonicSet.h"
+
+namespace {
+
+constexpr const char* kSection = "EDIT_PROFILE_DIALOG";
+
+QLineEdit* TextField(const char* name, QWidget* parent) {
+    auto* field = new QLineEdit(parent);
+    field->setObjectName(QString::fromLatin1(name));
+    return field;
+}
+
+}  // namespace
+
+frmEditProfile::frmEditProfile(QWidget* parent) : ModalDialog("frmEditProfile", parent) {
+    lblName = new QLabel(this);
+    lblName->setObjectName(QStringLiteral("lblName"));
+    txtName = TextField("txtName", this);
+    lblDesc = new QLabel(this);
+    lblDesc->setObjectName(QStringLiteral("lblDesc"));
+    txtDescription = TextField("txtDescription", this);
+    lblName->setBuddy(txtName);
+    lblDesc->setBuddy(txtDescription);
+    cmdOk = Button("cmdOk");
+    cmdCancel = Button("cmdCancel");
+    connect(cmdOk, &QPushButton::clicked, this, &frmEditProfile::cmdOk_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmEditProfile::cmdCancel_Click);
+
+    auto* fields = new QFormLayout;
+    fields->addRow(lblName, txtName);
+    fields->addRow(lblDesc, txtDescription);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(fields);
+    layout->addStretch();
+    layout->addLayout(ButtonRow({cmdOk, cmdCancel}));
+    setMinimumWidth(fontMetrics().averageCharWidth() * 56);
+}
+
+// A locked name shows the window's face colour behind it, so that it does not look editable.
+void frmEditProfile::LockNameField(bool locked) {
+    txtName->setReadOnly(locked);
+    QPalette palette = txtName->palette();
+    palette.setColor(QPalette::Base,
+                     locked ? palette.color(QPalette::Button) : QPalette().color(QPalette::Base));
+    txtName->setPalette(palette);
+}
+
+void frmEditProfile::InitDialog(int32_t mode, Profile& profile) try {
+    oProfile = &profile;
+    lngEditMode = mode;
+    ResetCancel();
+    const bool newProfile = mode == kNewProfile;
+    LockNameField(!newProfile);
+    txtName->setText(newProfile ? QString() : QtText::ToQt(profile.ProfileCaption()));
+    txtDescription->setText(newProfile ? QString() : QtText::ToQt(profile.ProfileDescription()));
+    TranslateDialog();
+    (newProfile ? txtName : txtDescription)->setFocus();
+} catch (...) {
+    mError::PassOn("frmEditProfile.InitDialog");
+}
+
+std::string frmEditProfile::TranslateDialogItem(const std::string& key) const try {
+    return Translator().TranslateEx(kSection, key);
+} catch (...) {
+    mError::PassOn("frmEditProfile.TranslateDialogItem");
+}
+
+void frmEditProfile::TranslateDialog() try {
+    setWindowTitle(QtText::ToQt(
+        TranslateDialogItem(lngEditMode == kNewProfile ? "DIALOG_CAPTION1" : "DIALOG_CAPTION2")));
+    MnemonicSet keys;
+    lblName->setText(keys.Add(QtText::ToQt(TranslateDialogItem("LBL_NAME"))));
+    lblDesc->setText(keys.Add(QtText::ToQt(TranslateDialogItem("LBL_DESCRIPTION"))));
+    cmdOk->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_OK")));
+    cmdCancel->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_CANCEL")));
+} catch (...) {
+    mError::PassOn("frmEditProfile.TranslateDialog");
+}
+
+bool frmEditProfile::CheckInput() try {
+    const std::string name = QtText::FromQt(txtName->text());
+    const char* problem = nullptr;
+    if (name.empty())
+        problem = "MSG_PROFILE_NAME_MISSED";
+    else if (!Profile::IsStorableCaption(name))
+        problem = "MSG_PROFILE_NAME_INVALID";
+    else if (txtDescription->text().isEmpty())
+        problem = "MSG_PROFILE_DESCRIPTION_MISSED";
+    if (problem == nullptr)
+        return true;
+    Ui().MsgBox(TranslateDialogItem(problem), vbOKOnly);
+    (problem == std::string("MSG_PROFILE_DESCRIPTION_MISSED") ? txtDescription : txtName)->setFocus();
+    return false;
+} catch (...) {
+    mError::PassOn("frmEditProfile.CheckInput");
+}
+
+void frmEditProfile::cmdOk_Click() try {
+    if (!CheckInput())
+        return;
+    oProfile->SetProfileName(Profile::kNamePrefix + QtText::FromQt(txtName->text()));
+    oProfile->SetProfileDescription(QtText::FromQt(txtDescription->text()));
+    Confirm();
+} catch (...) {
+    mError::ShowError("frmEditProfile.cmdOk_Click");
+}
+
+void frmEditProfile::cmdCancel_Click() try { reject(); } catch (...) {
+    mError::ShowError("frmEditProfile.cmdCancel_Click");
+}

@@ -1,0 +1,88 @@
+#include "ui/dialogs/frmLoadProfile.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/PublicObjects.h"
+#include "app/UserInterface.h"
+#include "error/mError.h"
+#include "profiles/Profiles.h"
+#include "translate/cTranslate.h"
+#include "ui/QtText.h"
+#include "ui/controls/ucProfiles.h"
+#include "ui/dialogs/MnemonicSet.h"
+
+frmLoadProfile::frmLoadProfile(QWidget* parent) : ModalDialog("frmLoadProfile", parent) {
+    lblInfo = WrappedLabel("lblInfo");
+    ucProfiles1 = new ucProfiles(this);
+    ucProfiles1->setObjectName(QStringLiteral("ucProfiles1"));
+    lblInfo->setBuddy(ucProfiles1);
+    cmdHelp = Button("cmdHelp");
+    cmdOk = Button("cmdOk");
+    cmdCancel = Button("cmdCancel");
+    connect(cmdOk, &QPushButton::clicked, this, &frmLoadProfile::cmdOk_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmLoadProfile::cmdCancel_Click);
+    connect(cmdHelp, &QPushButton::clicked, this, &frmLoadProfile::cmdHelp_Click);
+    connect(ucProfiles1, &ucProfiles::SelectionChanged, this, &frmLoadProfile::ucProfiles1_SelectionChanged);
+    connect(ucProfiles1, &ucProfiles::RowActivated, this, &frmLoadProfile::cmdOk_Click);
+
+    QHBoxLayout* buttons = ButtonRow({cmdOk, cmdCancel});
+    buttons->insertWidget(0, cmdHelp);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lblInfo);
+    layout->addWidget(ucProfiles1, 1);
+    layout->addLayout(buttons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 64);
+}
+
+// The standard profile, which the help recommends, starts selected, so that Enter alone takes it.
+void frmLoadProfile::InitDialog() try {
+    ResetCancel();
+    ucProfiles1->FillProfileList(false);
+    ucProfiles1->SetMultiSelect(false);
+    ucProfiles1->SelectProfile(Profiles::kStandardProfileName);
+    ucProfiles1_SelectionChanged();
+    TranslateDialog();
+    ucProfiles1->setFocus();
+} catch (...) {
+    mError::PassOn("frmLoadProfile.InitDialog");
+}
+
+Profile* frmLoadProfile::SelectedProfile() const try { return ucProfiles1->SelectedProfile(); } catch (...) {
+    mError::PassOn("frmLoadProfile.SelectedProfile");
+}
+
+void frmLoadProfile::TranslateDialog() try {
+    const cTranslate& translate = Translator();
+    setWindowTitle(QtText::ToQt(translate.TranslateEx("LOAD_PROFILE_DIALOG", "DIALOG_CAPTION")));
+    MnemonicSet keys;
+    lblInfo->setText(keys.Add(QtText::ToQt(translate.TranslateEx("LOAD_PROFILE_DIALOG", "LBL_INFO"))));
+    cmdHelp->setText(keys.Add(QtText::ToQt(translate.TranslateEx("GLOBAL", "BTN_HELP"))));
+    cmdOk->setText(QtText::ToQt(translate.TranslateEx("GLOBAL", "BTN_OK")));
+    cmdCancel->setText(QtText::ToQt(translate.TranslateEx("GLOBAL", "BTN_CANCEL")));
+} catch (...) {
+    mError::PassOn("frmLoadProfile.TranslateDialog");
+}
+
+void frmLoadProfile::ucProfiles1_SelectionChanged() try {
+    cmdOk->setEnabled(ucProfiles1->SelectedProfile() != nullptr);
+} catch (...) {
+    mError::ShowError("frmLoadProfile.ucProfiles1_SelectionChanged");
+}
+
+void frmLoadProfile::cmdOk_Click() try {
+    if (ucProfiles1->SelectedProfile() != nullptr)
+        Confirm();
+} catch (...) {
+    mError::ShowError("frmLoadProfile.cmdOk_Click");
+}
+
+void frmLoadProfile::cmdCancel_Click() try { reject(); } catch (...) {
+    mError::ShowError("frmLoadProfile.cmdCancel_Click");
+}
+
+void frmLoadProfile::cmdHelp_Click() try { Ui().MsgBox(kHelpText, vbOKOnly); } catch (...) {
+    mError::ShowError("frmLoadProfile.cmdHelp_Click");
+}

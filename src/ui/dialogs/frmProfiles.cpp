@@ -1,0 +1,45 @@
+#include "ui/dialogs/frmProfiles.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "error/mError.h"
+#include "translate/cTranslate.h"
+#include "ui/QtText.h"
+#include "ui/controls/ucProfiles.h"
+
+frmProfiles::frmProfiles(QWidget* parent) : ModalDialog("frmProfiles", parent) {
+    ucProfiles1 = new ucProfiles(this);
+    ucProfiles1->setObjectName(QStringLiteral("ucProfiles1"));
+    cmdClose = Button("cmdClose");
+    connect(cmdClose, &QPushButton::clicked, this, &frmProfiles::cmdClose_Click);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(ucProfiles1, 1);
+    layout->addLayout(ButtonRow({cmdClose}));
+    resize(fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 20);
+}
+
+// The active profile starts as the current row, so the list opens where the user works.
+void frmProfiles::InitDialog() try {
+    ucProfiles1->FillProfileList(false);
+    if (const Profile* active = App().ActiveProfile())
+        ucProfiles1->SelectProfile(active->ProfileName());
+    TranslateDialog();
+    ucProfiles1->setFocus();
+} catch (...) {
+    mError::PassOn("frmProfiles.InitDialog");
+}
+
+void frmProfiles::TranslateDialog() try {
+    setWindowTitle(QtText::ToQt(Translator().TranslateEx("PROFILES_DIALOG", "DIALOG_CAPTION")));
+    cmdClose->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_CLOSE")));
+} catch (...) {
+    mError::PassOn("frmProfiles.TranslateDialog");
+}
+
+void frmProfiles::cmdClose_Click() try { accept(); } catch (...) {
+    mError::ShowError("frmProfiles.cmdClose_Click");
+}

@@ -1,0 +1,80 @@
+#include "ui/dialogs/frmSave.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "error/mError.h"
+#include "translate/cTranslate.h"
+#include "ui/QtText.h"
+#include "ui/controls/ucProfiles.h"
+#include "ui/dialogs/MnemonicSet.h"
+
+namespace {
+
+constexpr const char* kSection = "SAVE_DIALOG";
+
+}  // namespace
+
+frmSave::frmSave(QWidget* parent) : ModalDialog("frmSave", parent) {
+    lblListTitle = new QLabel(this);
+    lblListTitle->setObjectName(QStringLiteral("lblListTitle"));
+    ucProfiles1 = new ucProfiles(this);
+    ucProfiles1->setObjectName(QStringLiteral("ucProfiles1"));
+    lblListTitle->setBuddy(ucProfiles1);
+    lblListInfo = WrappedLabel("lblListInfo");
+    Command1 = Button("Command1");
+    Command2 = Button("Command2");
+    connect(Command1, &QPushButton::clicked, this, &frmSave::Command1_Click);
+    connect(Command2, &QPushButton::clicked, this, &frmSave::Command2_Click);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lblListTitle);
+    layout->addWidget(ucProfiles1, 1);
+    layout->addWidget(lblListInfo);
+    layout->addLayout(ButtonRow({Command1, Command2}));
+    setMinimumWidth(fontMetrics().averageCharWidth() * 64);
+}
+
+// Every changed profile starts selected: saving all of them is what the user most likely wants.
+void frmSave::InitDialog() try {
+    ResetCancel();
+    TranslateDialog();
+    ucProfiles1->FillProfileList(true);
+    ucProfiles1->SetMultiSelect(true);
+    ucProfiles1->SelectAllProfiles();
+    Command1->setFocus();
+} catch (...) {
+    mError::PassOn("frmSave.InitDialog");
+}
+
+std::string frmSave::TranslateDialogItem(const std::string& key) const try {
+    return Translator().TranslateEx(kSection, key);
+} catch (...) {
+    mError::PassOn("frmSave.TranslateDialogItem");
+}
+
+void frmSave::TranslateDialog() try {
+    setWindowTitle(QtText::ToQt(TranslateDialogItem("DIALOG_CAPTION")));
+    lblListInfo->setText(QtText::ToQt(TranslateDialogItem("LBL_LIST_INFO")));
+    MnemonicSet keys;
+    lblListTitle->setText(keys.Add(QtText::ToQt(TranslateDialogItem("LBL_LIST_TITLE"))));
+    Command1->setText(keys.Add(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_YES"))));
+    Command2->setText(keys.Add(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_NO"))));
+} catch (...) {
+    mError::PassOn("frmSave.TranslateDialog");
+}
+
+void frmSave::Command1_Click() try {
+    App().SaveDataEx(ucProfiles1->GetSelectedItems());
+    Confirm();
+} catch (...) {
+    mError::ShowError("frmSave.Command1_Click");
+}
+
+void frmSave::Command2_Click() try { reject(); } catch (...) {
+    mError::ShowError("frmSave.Command2_Click");
+}
