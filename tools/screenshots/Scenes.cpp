@@ -2,15 +2,17 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <memory>
 #include <vector>
 
 #include "ScreenshotSession.h"
+#include "app/Application.h"
+#include "app/ErrorReport.h"
 #include "app/PublicObjects.h"
 #include "app/UserInterface.h"
-#include "app/ErrorReport.h"
 #include "error/Failure.h"
 #include "profiles/Profile.h"
 #include "translate/cTranslate.h"
@@ -19,7 +21,12 @@
 #include "ui/controls/ucPath.h"
 #include "ui/controls/ucTab.h"
 #include "ui/controls/ucTabArea.h"
+#include "ui/dialogs/frmEditProfile.h"
 #include "ui/dialogs/frmError.h"
+#include "ui/dialogs/frmLoadProfile.h"
+#include "ui/dialogs/frmOptions.h"
+#include "ui/dialogs/frmProfiles.h"
+#include "ui/dialogs/frmSave.h"
 #include "ui/dialogs/frmStartingTarvolin.h"
 #include "ui/dialogs/mMessageBox.h"
 #include "ui/main/ucResolutionPreview.h"
@@ -123,9 +130,54 @@ void RenderPreview(ScreenshotSession& session, const QString& name, bool windowL
     session.Save(host, name);
 }
 
+// A few profiles in memory, two of them changed; nothing reaches a settings file.
+void AddSampleProfiles() {
+    Profiles& profiles = App().Profiles();
+    if (profiles.Count() > 0)
+        return;
+    const char* const samples[][2] = {{"PROFILE_DEFAULT", "The standard settings for Tarvolin"},
+                                      {"profile_Race", "1920 x 1080, free play, no log"},
+                                      {"profile_Demo", "The demo scenario with pak128"},
+                                      {"profile_Testing", "800 x 600 in a window, with log file"}};
+    for (const auto& [name, description] : samples) {
+        Profile& profile = profiles.Add(name, name);
+        profile.SetProfileName(name);
+        profile.SetProfileDescription(description);
+        profile.SetDataChanged(profile.ProfileCaption() != "Demo" && profile.ProfileCaption() != "DEFAULT");
+    }
+    App().SetActiveProfile(&profiles.Item("profile_Race"));
+}
+
+void RenderProfileDialogs(ScreenshotSession& session) {
+    AddSampleProfiles();
+    Profile profile;
+    frmEditProfile edit;
+    edit.InitDialog(frmEditProfile::kNewProfile, profile);
+    edit.findChild<QLineEdit*>(QStringLiteral("txtName"))->setText(QStringLiteral("Race"));
+    edit.findChild<QLineEdit*>(QStringLiteral("txtDescription"))
+        ->setText(QStringLiteral("1920 x 1080, free play"));
+    session.Save(edit, QStringLiteral("frmEditProfile"));
+
+    frmLoadProfile choose;
+    choose.InitDialog();
+    session.Save(choose, QStringLiteral("frmLoadProfile"));
+    frmSave save;
+    save.InitDialog();
+    session.Save(save, QStringLiteral("frmSave"));
+    frmProfiles all;
+    all.InitDialog();
+    session.Save(all, QStringLiteral("frmProfiles"));
+
+    App().Options().SetEditorPath("/usr/bin/gnome-text-editor");
+    frmOptions options;
+    options.InitDialog();
+    session.Save(options, QStringLiteral("frmOptions"));
+}
+
 }  // namespace
 
 void RenderDialogs(ScreenshotSession& session) {
+    RenderProfileDialogs(session);
     frmError report;
     report.InitDialog(SampleReport());
     session.Save(report, QStringLiteral("frmError"));

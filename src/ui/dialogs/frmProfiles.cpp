@@ -19,7 +19,7 @@ frmProfiles::frmProfiles(QWidget* parent) : ModalDialog("frmProfiles", parent) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(ucProfiles1, 1);
     layout->addLayout(ButtonRow({cmdClose}));
-    resize(fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 20);
+    setMinimumSize(fontMetrics().averageCharWidth() * 72, fontMetrics().height() * 18);
 }
 
 // The active profile starts as the current row, so the list opens where the user works.

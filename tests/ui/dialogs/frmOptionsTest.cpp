@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -76,6 +77,20 @@ TEST_F(frmOptionsTest, TheLabelEndsWithAColonEvenWithoutItsText) {
     WriteLanguage("EN", "[OPTIONS_DIALOG]\r\n");
     dialog.TranslateDialog();
     EXPECT_EQ(Find<QLabel>(dialog, "lblEditor")->text().remove('&'), "<NO TEXT AVAILABLE>:");
+}
+
+// Tab walks the window in reading order, and the label's mnemonic reaches the path field.
+TEST_F(frmOptionsTest, KeyboardReachesEveryControlInReadingOrder) {
+    QApplication::setActiveWindow(&dialog);
+    QStringList order;
+    for (int i = 0; i < 5; ++i) {
+        order << QApplication::focusWidget()->objectName();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, (QStringList{"txtPath", "cmdEditorPath", "ckSafetyPromptBeforeStartOfTarvolin", "cmdOk",
+                                  "cmdCancel"}));
+    QTest::keyClick(&dialog, Qt::Key_T, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget()->parentWidget(), path());
 }
 
 }  // namespace
