@@ -5,6 +5,11 @@
 #include <QPushButton>
 #include <utility>
 
+#include "app/PublicObjects.h"
+#include "error/mError.h"
+#include "translate/cTranslate.h"
+#include "ui/QtText.h"
+
 namespace {
 
 std::function<void(QDialog&)>& Runner() {
@@ -25,8 +30,23 @@ void InstallModalRunner(std::function<void(QDialog&)> runner) {
     Runner() = std::move(runner);
 }
 
-ModalDialog::ModalDialog(const char* name, QWidget* parent) : QDialog(parent) {
+ModalDialog::ModalDialog(const char* name, const char* section, QWidget* parent)
+    : QDialog(parent), m_section(section) {
     setObjectName(QString::fromLatin1(name));
+}
+
+std::string ModalDialog::TranslateDialogItem(const std::string& key) const try {
+    return Translator().TranslateEx(m_section, key);
+} catch (...) {
+    mError::PassOn(objectName().toStdString() + ".TranslateDialogItem");
+}
+
+QString ModalDialog::ItemText(const char* key) const {
+    return QtText::ToQt(TranslateDialogItem(key));
+}
+
+QString ModalDialog::GlobalText(const char* key) {
+    return QtText::ToQt(Translator().TranslateEx("GLOBAL", key));
 }
 
 void ModalDialog::ShowModal() {

@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <functional>
 #include <initializer_list>
+#include <string>
 
 class QHBoxLayout;
 class QLabel;
@@ -21,8 +22,13 @@ public:
     // Translates the window and shows it modally; returns once it is closed.
     void ShowModal();
 
+    // The text of `key` in the window's own section of the language files.
+    std::string TranslateDialogItem(const std::string& key) const;
+
 protected:
-    ModalDialog(const char* name, QWidget* parent);
+    // `name` is the window's objectName and the first part of its trail names; `section` is its own section
+    // of the language files.
+    ModalDialog(const char* name, const char* section, QWidget* parent);
 
     // Sets every caption from the language files.
     virtual void TranslateDialog() = 0;
@@ -34,6 +40,10 @@ protected:
     // What InitDialog does first: the window counts as cancelled until it is confirmed.
     void ResetCancel() { m_cancel = true; }
 
+    // The texts of the window's own section and of the shared "GLOBAL" section, ready for a widget.
+    QString ItemText(const char* key) const;
+    static QString GlobalText(const char* key);
+
     // The pieces the windows share.
     QLabel* WrappedLabel(const char* name, QWidget* parent = nullptr);
     QPushButton* Button(const char* name, QWidget* parent = nullptr);
@@ -41,6 +51,7 @@ protected:
     static QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons);
 
 private:
+    const char* m_section;
     bool m_cancel = true;
 };
 

@@ -6,17 +6,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/PublicObjects.h"
 #include "app/UserInterface.h"
 #include "error/mError.h"
 #include "profiles/Profile.h"
-#include "translate/cTranslate.h"
 #include "ui/QtText.h"
 #include "ui/dialogs/MnemonicSet.h"
 
 namespace {
-
-constexpr const char* kSection = "EDIT_PROFILE_DIALOG";
 
 QLineEdit* TextField(const char* name, QWidget* parent) {
     auto* field = new QLineEdit(parent);
@@ -26,7 +22,8 @@ QLineEdit* TextField(const char* name, QWidget* parent) {
 
 }  // namespace
 
-frmEditProfile::frmEditProfile(QWidget* parent) : ModalDialog("frmEditProfile", parent) {
+frmEditProfile::frmEditProfile(QWidget* parent)
+    : ModalDialog("frmEditProfile", "EDIT_PROFILE_DIALOG", parent) {
     lblName = new QLabel(this);
     lblName->setObjectName(QStringLiteral("lblName"));
     txtName = TextField("txtName", this);
@@ -73,20 +70,14 @@ void frmEditProfile::InitDialog(int32_t mode, Profile& profile) try {
     mError::PassOn("frmEditProfile.InitDialog");
 }
 
-std::string frmEditProfile::TranslateDialogItem(const std::string& key) const try {
-    return Translator().TranslateEx(kSection, key);
-} catch (...) {
-    mError::PassOn("frmEditProfile.TranslateDialogItem");
-}
-
 void frmEditProfile::TranslateDialog() try {
     setWindowTitle(QtText::ToQt(
         TranslateDialogItem(lngEditMode == kNewProfile ? "DIALOG_CAPTION1" : "DIALOG_CAPTION2")));
     MnemonicSet keys;
-    lblName->setText(keys.Add(QtText::ToQt(TranslateDialogItem("LBL_NAME"))));
-    lblDesc->setText(keys.Add(QtText::ToQt(TranslateDialogItem("LBL_DESCRIPTION"))));
-    cmdOk->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_OK")));
-    cmdCancel->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_CANCEL")));
+    lblName->setText(keys.Add(ItemText("LBL_NAME")));
+    lblDesc->setText(keys.Add(ItemText("LBL_DESCRIPTION")));
+    cmdOk->setText(GlobalText("BTN_OK"));
+    cmdCancel->setText(GlobalText("BTN_CANCEL"));
 } catch (...) {
     mError::PassOn("frmEditProfile.TranslateDialog");
 }

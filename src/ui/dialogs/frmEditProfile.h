@@ -27,7 +27,6 @@ public:
     bool CheckInput();
 
     void TranslateDialog() override;
-    std::string TranslateDialogItem(const std::string& key) const;
 
 private slots:
     void cmdOk_Click();

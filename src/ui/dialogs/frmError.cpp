@@ -57,7 +57,7 @@ QHBoxLayout* RightAligned(QWidget* widget) {
 
 }  // namespace
 
-frmError::frmError(QWidget* parent) : ModalDialog("frmError", parent) {
+frmError::frmError(QWidget* parent) : ModalDialog("frmError", "ERROR_DIALOG", parent) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(CreateHeader());
     layout->addLayout(CreateTabbedPages(), 1);

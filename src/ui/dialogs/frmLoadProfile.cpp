@@ -5,16 +5,15 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/PublicObjects.h"
 #include "app/UserInterface.h"
 #include "error/mError.h"
 #include "profiles/Profiles.h"
-#include "translate/cTranslate.h"
 #include "ui/QtText.h"
 #include "ui/controls/ucProfiles.h"
 #include "ui/dialogs/MnemonicSet.h"
 
-frmLoadProfile::frmLoadProfile(QWidget* parent) : ModalDialog("frmLoadProfile", parent) {
+frmLoadProfile::frmLoadProfile(QWidget* parent)
+    : ModalDialog("frmLoadProfile", "LOAD_PROFILE_DIALOG", parent) {
     lblInfo = WrappedLabel("lblInfo");
     ucProfiles1 = new ucProfiles(this);
     ucProfiles1->setObjectName(QStringLiteral("ucProfiles1"));
@@ -55,13 +54,12 @@ Profile* frmLoadProfile::SelectedProfile() const try { return ucProfiles1->Selec
 }
 
 void frmLoadProfile::TranslateDialog() try {
-    const cTranslate& translate = Translator();
-    setWindowTitle(QtText::ToQt(translate.TranslateEx("LOAD_PROFILE_DIALOG", "DIALOG_CAPTION")));
+    setWindowTitle(ItemText("DIALOG_CAPTION"));
     MnemonicSet keys;
-    lblInfo->setText(keys.Add(QtText::ToQt(translate.TranslateEx("LOAD_PROFILE_DIALOG", "LBL_INFO"))));
-    cmdHelp->setText(keys.Add(QtText::ToQt(translate.TranslateEx("GLOBAL", "BTN_HELP"))));
-    cmdOk->setText(QtText::ToQt(translate.TranslateEx("GLOBAL", "BTN_OK")));
-    cmdCancel->setText(QtText::ToQt(translate.TranslateEx("GLOBAL", "BTN_CANCEL")));
+    lblInfo->setText(keys.Add(ItemText("LBL_INFO")));
+    cmdHelp->setText(keys.Add(GlobalText("BTN_HELP")));
+    cmdOk->setText(GlobalText("BTN_OK"));
+    cmdCancel->setText(GlobalText("BTN_CANCEL"));
 } catch (...) {
     mError::PassOn("frmLoadProfile.TranslateDialog");
 }

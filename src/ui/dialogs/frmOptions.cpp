@@ -10,18 +10,11 @@
 #include "app/PublicObjects.h"
 #include "app/mMain.h"
 #include "error/mError.h"
-#include "translate/cTranslate.h"
 #include "ui/QtText.h"
 #include "ui/controls/ucPath.h"
 #include "ui/dialogs/MnemonicSet.h"
 
-namespace {
-
-constexpr const char* kSection = "OPTIONS_DIALOG";
-
-}  // namespace
-
-frmOptions::frmOptions(QWidget* parent) : ModalDialog("frmOptions", parent) {
+frmOptions::frmOptions(QWidget* parent) : ModalDialog("frmOptions", "OPTIONS_DIALOG", parent) {
     lblEditor = new QLabel(this);
     lblEditor->setObjectName(QStringLiteral("lblEditor"));
     txtEditorPath = new ucPath(this);
@@ -62,21 +55,14 @@ void frmOptions::InitDialog() try {
     mError::PassOn("frmOptions.InitDialog");
 }
 
-std::string frmOptions::TranslateDialogItem(const std::string& key) const try {
-    return Translator().TranslateEx(kSection, key);
-} catch (...) {
-    mError::PassOn("frmOptions.TranslateDialogItem");
-}
-
 void frmOptions::TranslateDialog() try {
-    setWindowTitle(QtText::ToQt(TranslateDialogItem("DIALOG_CAPTION")));
+    setWindowTitle(ItemText("DIALOG_CAPTION"));
     MnemonicSet keys;
     lblEditor->setText(keys.Add(QtText::ToQt(TranslateDialogItem("LBL_EDITOR") + ":")));
-    cmdEditorPath->setText(keys.Add(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_Browse"))));
-    ckSafetyPromptBeforeStartOfTarvolin->setText(
-        keys.Add(QtText::ToQt(TranslateDialogItem("CHK_SHOW_STARTTARVOLINDIALOG"))));
-    cmdOk->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_OK")));
-    cmdCancel->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_CANCEL")));
+    cmdEditorPath->setText(keys.Add(GlobalText("BTN_Browse")));
+    ckSafetyPromptBeforeStartOfTarvolin->setText(keys.Add(ItemText("CHK_SHOW_STARTTARVOLINDIALOG")));
+    cmdOk->setText(GlobalText("BTN_OK"));
+    cmdCancel->setText(GlobalText("BTN_CANCEL"));
 } catch (...) {
     mError::PassOn("frmOptions.TranslateDialog");
 }

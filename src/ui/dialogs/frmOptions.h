@@ -21,7 +21,6 @@ public:
     void InitDialog();
 
     void TranslateDialog() override;
-    std::string TranslateDialogItem(const std::string& key) const;
 
 private slots:
     void cmdEditorPath_Click();

@@ -7,11 +7,10 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
-#include "translate/cTranslate.h"
 #include "ui/QtText.h"
 #include "ui/controls/ucProfiles.h"
 
-frmProfiles::frmProfiles(QWidget* parent) : ModalDialog("frmProfiles", parent) {
+frmProfiles::frmProfiles(QWidget* parent) : ModalDialog("frmProfiles", "PROFILES_DIALOG", parent) {
     ucProfiles1 = new ucProfiles(this);
     ucProfiles1->setObjectName(QStringLiteral("ucProfiles1"));
     cmdClose = Button("cmdClose");
@@ -34,8 +33,8 @@ void frmProfiles::InitDialog() try {
 }
 
 void frmProfiles::TranslateDialog() try {
-    setWindowTitle(QtText::ToQt(Translator().TranslateEx("PROFILES_DIALOG", "DIALOG_CAPTION")));
-    cmdClose->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_CLOSE")));
+    setWindowTitle(ItemText("DIALOG_CAPTION"));
+    cmdClose->setText(GlobalText("BTN_CLOSE"));
 } catch (...) {
     mError::PassOn("frmProfiles.TranslateDialog");
 }

@@ -8,18 +8,11 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
-#include "translate/cTranslate.h"
 #include "ui/QtText.h"
 #include "ui/controls/ucProfiles.h"
 #include "ui/dialogs/MnemonicSet.h"
 
-namespace {
-
-constexpr const char* kSection = "SAVE_DIALOG";
-
-}  // namespace
-
-frmSave::frmSave(QWidget* parent) : ModalDialog("frmSave", parent) {
+frmSave::frmSave(QWidget* parent) : ModalDialog("frmSave", "SAVE_DIALOG", parent) {
     lblListTitle = new QLabel(this);
     lblListTitle->setObjectName(QStringLiteral("lblListTitle"));
     ucProfiles1 = new ucProfiles(this);
@@ -51,19 +44,13 @@ void frmSave::InitDialog() try {
     mError::PassOn("frmSave.InitDialog");
 }
 
-std::string frmSave::TranslateDialogItem(const std::string& key) const try {
-    return Translator().TranslateEx(kSection, key);
-} catch (...) {
-    mError::PassOn("frmSave.TranslateDialogItem");
-}
-
 void frmSave::TranslateDialog() try {
-    setWindowTitle(QtText::ToQt(TranslateDialogItem("DIALOG_CAPTION")));
-    lblListInfo->setText(QtText::ToQt(TranslateDialogItem("LBL_LIST_INFO")));
+    setWindowTitle(ItemText("DIALOG_CAPTION"));
+    lblListInfo->setText(ItemText("LBL_LIST_INFO"));
     MnemonicSet keys;
-    lblListTitle->setText(keys.Add(QtText::ToQt(TranslateDialogItem("LBL_LIST_TITLE"))));
-    Command1->setText(keys.Add(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_YES"))));
-    Command2->setText(keys.Add(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_NO"))));
+    lblListTitle->setText(keys.Add(ItemText("LBL_LIST_TITLE")));
+    Command1->setText(keys.Add(GlobalText("BTN_YES")));
+    Command2->setText(keys.Add(GlobalText("BTN_NO")));
 } catch (...) {
     mError::PassOn("frmSave.TranslateDialog");
 }

@@ -19,7 +19,6 @@ public:
     void InitDialog();
 
     void TranslateDialog() override;
-    std::string TranslateDialogItem(const std::string& key) const;
 
 private slots:
     void Command1_Click();

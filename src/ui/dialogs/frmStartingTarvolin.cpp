@@ -11,13 +11,10 @@
 #include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "profiles/Profile.h"
-#include "translate/cTranslate.h"
 #include "ui/QtText.h"
 #include "ui/dialogs/MnemonicSet.h"
 
 namespace {
-
-constexpr const char* kSection = "START_TARVOLIN_DIALOG";
 
 // The command line can be long and is worth copying, so it is framed, wrapped and selectable.
 QLabel* CommandLineLabel(QLabel* label) {
@@ -31,7 +28,8 @@ QLabel* CommandLineLabel(QLabel* label) {
 
 }  // namespace
 
-frmStartingTarvolin::frmStartingTarvolin(QWidget* parent) : ModalDialog("frmStartingTarvolin", parent) {
+frmStartingTarvolin::frmStartingTarvolin(QWidget* parent)
+    : ModalDialog("frmStartingTarvolin", "START_TARVOLIN_DIALOG", parent) {
     auto* layout = new QVBoxLayout(this);
     lblCaption = WrappedLabel("lblCaption");
     lblInfo = CommandLineLabel(WrappedLabel("lblInfo"));
@@ -64,20 +62,14 @@ void frmStartingTarvolin::InitDialog(const Profile& oProfile) try {
     mError::PassOn("frmStartingTarvolin.InitDialog");
 }
 
-std::string frmStartingTarvolin::TranslateDialogItem(const std::string& key) const try {
-    return Translator().TranslateEx(kSection, key);
-} catch (...) {
-    mError::PassOn("frmStartingTarvolin.TranslateDialogItem");
-}
-
 void frmStartingTarvolin::TranslateDialog() try {
-    setWindowTitle(QtText::ToQt(TranslateDialogItem("DIALOG_CAPTION")));
-    lblCaption->setText(QtText::ToQt(TranslateDialogItem("LBL_DIALOG_INFO")));
-    lblWarning->setText(QtText::ToQt(TranslateDialogItem("LBL_WARNING")));
+    setWindowTitle(ItemText("DIALOG_CAPTION"));
+    lblCaption->setText(ItemText("LBL_DIALOG_INFO"));
+    lblWarning->setText(ItemText("LBL_WARNING"));
     MnemonicSet keys;
-    ckDontShowThisDialogAgain->setText(keys.Add(QtText::ToQt(TranslateDialogItem("CHK_DONT_SHOW_DIALOG"))));
-    cmdOk->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_OK")));
-    cmdCancel->setText(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_CANCEL")));
+    ckDontShowThisDialogAgain->setText(keys.Add(ItemText("CHK_DONT_SHOW_DIALOG")));
+    cmdOk->setText(GlobalText("BTN_OK"));
+    cmdCancel->setText(GlobalText("BTN_CANCEL"));
 } catch (...) {
     mError::PassOn("frmStartingTarvolin.TranslateDialog");
 }

@@ -21,7 +21,6 @@ public:
     void InitDialog(const Profile& oProfile);
 
     void TranslateDialog() override;
-    std::string TranslateDialogItem(const std::string& key) const;
 
 private slots:
     void cmdOk_Click();
