@@ -61,3 +61,7 @@ void cIni_Base::WriteIntegerToIni(std::string_view key, int16_t value) const try
 iniFile::Update cIni_Base::BeginSave() const {
     return iniFile::Update(IniPath().value_or(std::string()));
 }
+
+iniFile::Load cIni_Base::BeginLoad() const {
+    return iniFile::Load(IniPath().value_or(std::string()));
+}

@@ -8,6 +8,7 @@
 #endif
 #include <filesystem>
 #include <random>
+#include <set>
 #include <string>
 
 #include "storage/IniStore.h"
@@ -104,6 +105,20 @@ TEST_F(IniRobustness, AnotherProgramsEditIsSeenAtTheNextRead) {
     EXPECT_EQ(Read("S", "k"), "default");
 }
 
+// A link to a file not there yet is written through, creating the file; a loop of links is not written.
+TEST_F(IniRobustness, ADanglingLinkIsWrittenThroughAndALoopIsLeftAlone) {
+    ONLY_ON_LINUX("symbolic links; Windows creates links only with extra privileges.");
+    fs::create_symlink("real.ini", file);
+    iniFile::Write(file, "S", "k", "1");
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(dir.Read("real.ini"), "[S]\r\nk=1\r\n");
+    fs::create_symlink("loop2.ini", dir.File("loop1.ini"));
+    fs::create_symlink("loop1.ini", dir.File("loop2.ini"));
+    iniFile::Write(dir.File("loop1.ini"), "S", "k", "1");
+    EXPECT_TRUE(fs::is_symlink(dir.File("loop1.ini")) && fs::is_symlink(dir.File("loop2.ini")));
+    EXPECT_EQ(iniFile::Read(dir.File("loop1.ini"), "S", "k", "default", 255), "default");
+}
+
 TEST_F(IniRobustness, WriteFollowsSymbolicLinkAndKeepsPermissions) {
     ONLY_ON_LINUX("symbolic links and permission bits; Windows creates links only with extra privileges.");
     dir.Write("real.ini", "[S]\nk=1\n");
@@ -117,11 +132,12 @@ TEST_F(IniRobustness, WriteFollowsSymbolicLinkAndKeepsPermissions) {
 
 #ifndef _WIN32
 // Lets writes fail once the file would grow beyond `limit` bytes, as a full disk would.
+// The signal keeps its default action, which ends a process that does not expect it.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t limit) {
         getrlimit(RLIMIT_FSIZE, &m_old);
-        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        m_oldHandler = std::signal(SIGXFSZ, SIG_DFL);
         rlimit lowered{limit, m_old.rlim_max};
         setrlimit(RLIMIT_FSIZE, &lowered);
     }
@@ -148,9 +164,25 @@ TEST_F(IniRobustness, WriteFailingHalfWayLeavesTheOldFile) {
         iniFile::Write(file, "S", "k", "new");
     }
     EXPECT_EQ(dir.Read("Pavonel.ini"), old);
-    EXPECT_EQ(EntriesInFolder(), 1u);
     EXPECT_EQ(Read("S", "k"), "old");
+    EXPECT_FALSE(fs::exists(dir.File(".Pavonel.ini.lock")) && EntriesInFolder() != 2u);
 #endif
+}
+
+// What crashed saves left beside the file goes at the next write; names that only look alike stay.
+TEST_F(IniRobustness, AWriteRemovesTheLeftoversOfCrashedSaves) {
+    dir.Write("Pavonel.ini", "[S]\r\nk=old\r\n");
+    for (const char* leftover : {".Pavonel.ini.a1B2c3", ".Pavonel.ini.ZZZZZZ"})
+        dir.Write(leftover, "half a save");
+    for (const char* other :
+         {".Pavonel.ini.bak", ".Pavonel.ini.a1B2c3d", ".Other.ini.a1B2c3", "Pavonel.ini.a1B2c3"})
+        dir.Write(other, "keep");
+    iniFile::Write(file, "S", "k", "new");
+    std::set<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(dir.Path()))
+        names.insert(entry.path().filename().string());
+    EXPECT_EQ(names, (std::set<std::string>{".Other.ini.a1B2c3", ".Pavonel.ini.a1B2c3d", ".Pavonel.ini.bak",
+                                            ".Pavonel.ini.lock", "Pavonel.ini", "Pavonel.ini.a1B2c3"}));
 }
 
 // An update is written once, when it ends, also when a failure makes it end.
