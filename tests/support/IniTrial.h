@@ -1,19 +1,24 @@
-// The settings-file states that the crash trials save and recognise: every key K0... of [STATE] holds the
-// same text of the save's number, so a file is either exactly one save's state or broken.
+// The settings file that the crash trials save over and over: save i sets every key K0... of [STATE] to
+// the same text of i, so a file is exactly one save's state or broken.
 #pragma once
 
-#include <optional>
 #include <string>
 
 namespace IniTrial {
 
-// Saves state `save` of a file with `keys` keys as one update through the engine.
-void SaveState(const std::string& file, int keys, int save);
+constexpr int kKeys = 200;
 
-// The bytes of a file that was created by state 0 and has since had state `save` written.
-std::string StateBytes(int keys, int save);
+// Long values make a save take long enough for a kill to land inside it.
+inline std::string Value(int save) {
+    return std::to_string(save) + ":" + std::string(100, 'v');
+}
 
-// The save whose state `bytes` are exactly; nothing for anything else.
-std::optional<int> StateOf(const std::string& bytes, int keys);
+// The file after save `save`, when the saves started on an empty file.
+inline std::string StateBytes(int save) {
+    std::string bytes = "[STATE]\r\n";
+    for (int key = 0; key < kKeys; ++key)
+        bytes += "K" + std::to_string(key) + "=" + Value(save) + "\r\n";
+    return bytes;
+}
 
 }  // namespace IniTrial

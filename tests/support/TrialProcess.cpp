@@ -1,16 +1,7 @@
 #include "support/TrialProcess.h"
 
-#include <thread>
-
 #ifdef _WIN32
 #include <windows.h>
-#else
-#include <signal.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#endif
-
-#ifdef _WIN32
 
 TrialProcess::TrialProcess(const std::string& program, const std::vector<std::string>& arguments) {
     std::string commandLine = "\"" + program + "\"";
@@ -26,24 +17,27 @@ TrialProcess::TrialProcess(const std::string& program, const std::vector<std::st
     }
 }
 
-std::optional<int> TrialProcess::Wait(std::chrono::milliseconds timeout) {
+int TrialProcess::Wait() {
     const HANDLE process = reinterpret_cast<HANDLE>(m_handle);
     DWORD code = 0;
-    if (m_handle == 0 || WaitForSingleObject(process, static_cast<DWORD>(timeout.count())) != WAIT_OBJECT_0 ||
-        !GetExitCodeProcess(process, &code))
-        return std::nullopt;
-    CloseHandle(process);
+    const bool ended = m_handle != 0 && WaitForSingleObject(process, INFINITE) == WAIT_OBJECT_0 &&
+                       GetExitCodeProcess(process, &code);
+    if (m_handle != 0)
+        CloseHandle(process);
     m_handle = 0;
-    return static_cast<int>(code);
+    return ended ? static_cast<int>(code) : -1;
 }
 
 void TrialProcess::Kill() {
     if (m_handle != 0)
-        TerminateProcess(reinterpret_cast<HANDLE>(m_handle), 137);
-    Wait(std::chrono::seconds(30));
+        TerminateProcess(reinterpret_cast<HANDLE>(m_handle), 0xFFFFFFFF);
+    Wait();
 }
 
 #else
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
 
 extern char** environ;
 
@@ -59,30 +53,17 @@ TrialProcess::TrialProcess(const std::string& program, const std::vector<std::st
         m_handle = pid;
 }
 
-std::optional<int> TrialProcess::Wait(std::chrono::milliseconds timeout) {
-    const auto deadline = std::chrono::steady_clock::now() + timeout;
+int TrialProcess::Wait() {
     int status = 0;
-    while (m_handle != 0) {
-        const pid_t ended = waitpid(static_cast<pid_t>(m_handle), &status, WNOHANG);
-        if (ended != 0) {
-            m_handle = 0;
-            return ended < 0 ? -1 : WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-        }
-        if (std::chrono::steady_clock::now() >= deadline)
-            break;
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return std::nullopt;
+    const bool ended = m_handle != 0 && waitpid(static_cast<pid_t>(m_handle), &status, 0) > 0;
+    m_handle = 0;
+    return ended && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 void TrialProcess::Kill() {
     if (m_handle != 0)
         kill(static_cast<pid_t>(m_handle), SIGKILL);
-    Wait(std::chrono::seconds(30));
+    Wait();
 }
 
 #endif
-
-TrialProcess::~TrialProcess() {
-    Kill();
-}
