@@ -4,6 +4,7 @@
 #include "error/mError.h"
 
 void Options::LoadData() try {
+    iniFile::Load load = m_settings.BeginLoad();
     m_loaded = false;
     m_editorPath = m_settings.Read_EditorPath();
     m_language = m_settings.Read_Language();

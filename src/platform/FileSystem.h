@@ -1,5 +1,6 @@
 // The file operations the program needs beyond the standard library: a file's identity for the settings
-// engine's change check, durable and atomic replacement of a file, and a file's times and attributes.
+// engine's change check, durable and atomic replacement of a file with the cleaning of what a crashed
+// replacement left, and a file's times and attributes.
 #pragma once
 
 #include <cstdint>
@@ -14,6 +15,7 @@ struct FileStamp {
     uint64_t identity = 0;  // inode or file index
     uint64_t size = 0;
     int64_t modified = 0;  // nanoseconds or the OS's own ticks; only compared for equality
+    int64_t changed = 0;   // the status-change time where the OS keeps one (no program can set it), else 0
 
     bool operator==(const FileStamp&) const = default;
 };
@@ -48,6 +50,10 @@ std::optional<FileStamp> StampOf(const std::string& path);
 // The whole content of a regular file with the stamp of what was read; nothing when it cannot be read.
 std::optional<FileContent> ReadFile(const std::string& path);
 
+// The file a write to `path` changes: the end of its chain of symbolic links, which need not exist yet (a
+// dangling link is written through, never replaced); "" for a chain that loops or cannot be followed.
+std::string WriteTargetOf(const std::string& path);
+
 // True when ReplaceFile may write `path`: its folder exists and is writable, and the path is either missing
 // or a regular file that is not read-only. Permission bits are honoured even for the superuser, so a
 // read-only settings file stays untouched whoever runs the program.
@@ -57,6 +63,15 @@ bool CanReplaceFile(const std::string& path);
 // it, flushes it to the disk and renames it over the old one, so the file is either entirely old or entirely
 // new. Keeps the old file's permissions. Returns the new file's stamp, or nothing when the write failed, in
 // which case the old file is as it was and no temporary file is left behind.
+// A write beyond the process's file-size limit or the disk's space fails like any other write.
 std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes);
+
+// Removes the temporary files that replacements of `path` interrupted by a crash left beside it. Only for a
+// holder of the file's FileLock: every replacement still running holds that lock, so none of them is hit.
+void RemoveLeftovers(const std::string& path);
+
+// Makes every stamp's times whole multiples of `nanoseconds` (0 keeps them as stored), as a file system
+// with a coarse clock stores them; tests use it to play such a file system on any disk.
+void SetStampResolution(int64_t nanoseconds);
 
 }  // namespace platform

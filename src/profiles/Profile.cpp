@@ -88,6 +88,7 @@ void Profile::SetRefresh(int16_t value) {
 }
 
 bool Profile::LoadData() try {
+    iniFile::Load load = m_settings.BeginLoad();
     m_loaded = false;
     m_logMessages = m_settings.Read_LogMessages();
     m_freeplay = m_settings.Read_Freeplay();

@@ -6,6 +6,7 @@ namespace {
 
 constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
 constexpr std::string_view kUtf16LeBom = "\xFF\xFE";
+constexpr std::string_view kUtf16BeBom = "\xFE\xFF";
 constexpr char32_t kReplacement = 0xFFFD;
 
 void AppendUtf8(std::string& out, char32_t code) {
@@ -27,10 +28,10 @@ void AppendUtf8(std::string& out, char32_t code) {
     }
 }
 
-void AppendUtf16(std::string& out, char32_t code) {
-    auto unit = [&out](unsigned value) {
-        out.push_back(static_cast<char>(value & 0xFF));
-        out.push_back(static_cast<char>(value >> 8));
+void AppendUtf16(std::string& out, char32_t code, bool bigEndian) {
+    auto unit = [&out, bigEndian](unsigned value) {
+        out.push_back(static_cast<char>(bigEndian ? value >> 8 : value & 0xFF));
+        out.push_back(static_cast<char>(bigEndian ? value & 0xFF : value >> 8));
     };
     if (code < 0x10000) {
         unit(code);
@@ -41,12 +42,13 @@ void AppendUtf16(std::string& out, char32_t code) {
     }
 }
 
-std::string Utf16LeToUtf8(std::string_view bytes) {
+std::string Utf16ToUtf8(std::string_view bytes, bool bigEndian) {
     std::string out;
     out.reserve(bytes.size());
-    auto unitAt = [&bytes](std::size_t i) {
-        return static_cast<char32_t>(static_cast<unsigned char>(bytes[i]) |
-                                     (static_cast<unsigned char>(bytes[i + 1]) << 8));
+    auto unitAt = [&bytes, bigEndian](std::size_t i) {
+        const auto low = static_cast<unsigned char>(bytes[bigEndian ? i + 1 : i]);
+        const auto high = static_cast<unsigned char>(bytes[bigEndian ? i : i + 1]);
+        return static_cast<char32_t>(low | (high << 8));
     };
     for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
         char32_t unit = unitAt(i);
@@ -82,20 +84,21 @@ char32_t NextUtf8(std::string_view text, std::size_t& i) {
     return valid ? code : kReplacement;
 }
 
-std::string Utf8ToUtf16Le(std::string_view text) {
+std::string Utf8ToUtf16(std::string_view text, bool bigEndian) {
     std::string out;
     out.reserve(text.size() * 2);
     for (std::size_t i = 0; i < text.size();)
-        AppendUtf16(out, NextUtf8(text, i));
+        AppendUtf16(out, NextUtf8(text, i), bigEndian);
     return out;
 }
 
 }  // namespace
 
 DecodedIni DecodeIni(std::string_view bytes) {
-    if (bytes.starts_with(kUtf16LeBom)) {
-        return {Utf16LeToUtf8(bytes.substr(kUtf16LeBom.size())), IniEncoding::Utf16Le};
-    }
+    if (bytes.starts_with(kUtf16LeBom))
+        return {Utf16ToUtf8(bytes.substr(kUtf16LeBom.size()), false), IniEncoding::Utf16Le};
+    if (bytes.starts_with(kUtf16BeBom))
+        return {Utf16ToUtf8(bytes.substr(kUtf16BeBom.size()), true), IniEncoding::Utf16Be};
     if (bytes.starts_with(kUtf8Bom))
         return {std::string(bytes.substr(kUtf8Bom.size())), IniEncoding::Utf8Bom};
     return {std::string(bytes), IniEncoding::Narrow};
@@ -104,7 +107,9 @@ DecodedIni DecodeIni(std::string_view bytes) {
 std::string EncodeIni(std::string text, IniEncoding encoding) {
     switch (encoding) {
         case IniEncoding::Utf16Le:
-            return std::string(kUtf16LeBom) + Utf8ToUtf16Le(text);
+            return std::string(kUtf16LeBom) + Utf8ToUtf16(text, false);
+        case IniEncoding::Utf16Be:
+            return std::string(kUtf16BeBom) + Utf8ToUtf16(text, true);
         case IniEncoding::Utf8Bom:
             return text.insert(0, kUtf8Bom);
         case IniEncoding::Narrow:

@@ -9,6 +9,7 @@ enum class IniEncoding {
     Narrow,   // the system's narrow encoding, no byte-order mark
     Utf8Bom,  // narrow text behind a UTF-8 byte-order mark, which is kept
     Utf16Le,  // UTF-16 little endian behind its byte-order mark
+    Utf16Be,  // UTF-16 big endian behind its byte-order mark
 };
 
 struct DecodedIni {

@@ -2,76 +2,190 @@
 
 #include <utility>
 
-IniStore::Entry* IniStore::Current(const std::string& file) {
-    auto found = m_files.find(file);
-    if (found != m_files.end() && found->second.updates > 0)
-        return &found->second;
-    std::optional<platform::FileStamp> stamp = platform::StampOf(file);
-    if (found != m_files.end() && stamp && found->second.stamp == stamp && found->second.settled) {
-        return &found->second;
+#include "platform/FileLock.h"
+
+namespace {
+
+// A file found to hold what the copy does: the copy takes the stamp of what was just read.
+void Restamp(std::optional<platform::FileStamp>& stamp, bool& settled,
+             const std::optional<platform::FileContent>& content) {
+    if (content) {
+        stamp = content->stamp;
+        settled = content->settled;
     }
-    if (found != m_files.end())
-        m_files.erase(found);
-    std::optional<platform::FileContent> content = stamp ? platform::ReadFile(file) : std::nullopt;
+}
+
+}  // namespace
+
+IniStore::Found IniStore::Look(const std::string& file, const Entry& entry,
+                               std::optional<platform::FileContent>& content) {
+    const std::optional<platform::FileStamp> stamp = platform::StampOf(file);
+    if (!stamp)
+        return entry.stamp ? Found::Missing : Found::Current;
+    if (entry.stamp == stamp && entry.settled)
+        return Found::Current;
+    // A young file may have been edited within the same tick of the file system's clock, keeping every
+    // time and the size: only its bytes tell.
+    content = platform::ReadFile(file);
     if (!content)
-        return nullptr;
-    DecodedIni decoded = DecodeIni(content->bytes);
-    Entry entry{content->stamp, IniDocument::Parse(decoded.text), decoded.encoding, content->settled};
-    return &(m_files.insert_or_assign(file, std::move(entry)).first->second);
+        return Found::Unreadable;
+    return entry.stamp && content->bytes == entry.bytes ? Found::Current : Found::Changed;
+}
+
+void IniStore::Take(Entry& entry, platform::FileContent content) {
+    DecodedIni decoded = DecodeIni(content.bytes);
+    entry.document = IniDocument::Parse(decoded.text);
+    entry.encoding = decoded.encoding;
+    entry.stamp = content.stamp;
+    entry.settled = content.settled;
+    entry.bytes = std::move(content.bytes);
+}
+
+void IniStore::ForgetFile(Entry& entry) noexcept {
+    entry.stamp.reset();
+    entry.bytes.clear();
+    entry.document = IniDocument();
+    entry.encoding = IniEncoding::Narrow;
+    entry.settled = true;
+}
+
+void IniStore::Forget(Entry& entry) noexcept {
+    ForgetFile(entry);
+    entry.changes.clear();
+    entry.dirty = false;
+    entry.checked = false;
+}
+
+IniStore::Entry& IniStore::Current(const std::string& file) {
+    Entry& entry = m_files[file];
+    if (entry.updates > 0 || (entry.loads > 0 && entry.checked))
+        return entry;
+    std::optional<platform::FileContent> content;
+    switch (Look(file, entry, content)) {
+        case Found::Current:
+            Restamp(entry.stamp, entry.settled, content);
+            break;
+        case Found::Changed:
+            Take(entry, std::move(*content));
+            break;
+        case Found::Missing:
+        case Found::Unreadable:
+            Forget(entry);
+            break;
+    }
+    entry.checked = entry.loads > 0;
+    return entry;
 }
 
 std::optional<std::string> IniStore::Read(const std::string& file, std::string_view section,
                                           std::string_view key) {
-    Entry* entry = Current(file);
-    return entry != nullptr ? entry->document.Value(section, key) : std::nullopt;
-}
-
-IniStore::Entry& IniStore::ForUpdate(const std::string& file) {
-    Entry* entry = Current(file);
-    return entry != nullptr ? *entry : m_files[file];
+    return Current(file).document.Value(section, key);
 }
 
 void IniStore::BeginUpdate(const std::string& file) {
-    ++ForUpdate(file).updates;
+    ++Current(file).updates;
 }
 
 void IniStore::EndUpdate(const std::string& file) noexcept {
     auto found = m_files.find(file);
     if (found == m_files.end() || found->second.updates == 0)
         return;
-    if (--found->second.updates == 0 && found->second.dirty)
+    if (--found->second.updates == 0 && !found->second.changes.empty())
         Commit(file, found->second);
+}
+
+void IniStore::BeginLoad(const std::string& file) {
+    Entry& entry = m_files[file];
+    if (entry.loads++ == 0)
+        entry.checked = false;
+}
+
+void IniStore::EndLoad(const std::string& file) noexcept {
+    auto found = m_files.find(file);
+    if (found != m_files.end() && found->second.loads > 0)
+        --found->second.loads;
+}
+
+bool IniStore::Apply(IniDocument& document, const Change& change) {
+    if (!change.key)
+        return document.DeleteSection(change.section);
+    if (!change.value)
+        return document.DeleteKey(change.section, *change.key);
+    return document.SetValue(change.section, *change.key, *change.value);
 }
 
 void IniStore::Write(const std::string& file, std::string_view section, std::optional<std::string_view> key,
                      std::optional<std::string_view> value) {
     BeginUpdate(file);
     Entry& entry = m_files[file];
-    bool changed = !key                ? entry.document.DeleteSection(section)
-                   : value.has_value() ? entry.document.SetValue(section, *key, *value)
-                                       : entry.document.DeleteKey(section, *key);
-    entry.dirty = entry.dirty || changed;
+    Change change{std::string(section), key ? std::optional<std::string>(*key) : std::nullopt,
+                  value ? std::optional<std::string>(*value) : std::nullopt};
+    entry.dirty = Apply(entry.document, change) || entry.dirty;
+    // Kept even when the copy already holds it: the file may say otherwise by the time it is committed.
+    entry.changes.push_back(std::move(change));
     EndUpdate(file);
 }
 
+bool IniStore::Rebase(const std::string& file, Entry& entry) {
+    std::optional<platform::FileContent> content;
+    switch (Look(file, entry, content)) {
+        case Found::Current:
+            Restamp(entry.stamp, entry.settled, content);
+            return true;
+        case Found::Unreadable:
+            return false;
+        case Found::Missing:
+            ForgetFile(entry);
+            break;
+        case Found::Changed:
+            Take(entry, std::move(*content));
+            break;
+    }
+    // Only what this update asked for goes onto the newer file; everything else stays as the file has it.
+    entry.dirty = false;
+    for (const Change& change : entry.changes)
+        entry.dirty = Apply(entry.document, change) || entry.dirty;
+    return true;
+}
+
 void IniStore::Commit(const std::string& file, Entry& entry) noexcept {
-    std::optional<platform::FileStamp> stamp;
     try {
-        if (platform::CanReplaceFile(file)) {
-            entry.document.SerializeInto(m_buffer);
-            if (entry.encoding != IniEncoding::Narrow)
-                m_buffer = EncodeIni(std::move(m_buffer), entry.encoding);
-            stamp = platform::ReplaceFile(file, m_buffer);
+        std::optional<platform::FileContent> content;
+        if (!entry.dirty && Look(file, entry, content) == Found::Current) {
+            // Nothing to write while the file still holds what the copy does.
+            Restamp(entry.stamp, entry.settled, content);
+            entry.changes.clear();
+            return;
         }
+        const std::optional<platform::FileLock> lock = platform::CanReplaceFile(file)
+                                                           ? platform::FileLock::Acquire(file, m_lockPatience)
+                                                           : std::optional<platform::FileLock>();
+        if (lock && Rebase(file, entry) && Replace(file, entry))
+            return;
     } catch (...) {
-        // Out of memory while serialising: the file keeps its old content, as with any failed write.
+        // Out of memory: the file keeps its old content, as with any failed write.
     }
-    if (stamp) {
+    // The write did not happen, so the copy must not pretend it did: the next read looks at the disk.
+    Forget(entry);
+}
+
+bool IniStore::Replace(const std::string& file, Entry& entry) {
+    // No other copy of the program is saving while the lock is held, so every temporary file beside the
+    // settings file is a crashed save's.
+    platform::RemoveLeftovers(file);
+    if (entry.dirty) {
+        std::string bytes;
+        entry.document.SerializeInto(bytes);
+        if (entry.encoding != IniEncoding::Narrow)
+            bytes = EncodeIni(std::move(bytes), entry.encoding);
+        std::optional<platform::FileStamp> stamp = platform::ReplaceFile(file, bytes);
+        if (!stamp)
+            return false;
         entry.stamp = stamp;
-        entry.settled = true;
+        entry.bytes = std::move(bytes);
+        entry.settled = false;
         entry.dirty = false;
-    } else {
-        // The write did not happen, so the copy must not pretend it did: the next read looks at the disk.
-        m_files.erase(file);
     }
+    entry.changes.clear();
+    return true;
 }

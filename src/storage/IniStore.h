@@ -1,12 +1,16 @@
-// Keeps a parsed copy of every settings or language file the program touches. Each access first compares
-// the file on disk (identity, size, modification time) with the copy, so another program's edit is seen at
-// the next read. Writes go to the copy and are committed to the disk atomically, once per update.
+// Keeps a parsed copy of every settings or language file the program touches. A read first makes sure the
+// copy is the file's current state (identity, size and times; the bytes themselves while the times are too
+// young to tell a later edit apart), so another program's edit is seen at the next read; within a load only
+// the first read checks. Writes go to the copy and are committed once per update: under the file's lock,
+// onto the file as it is then, so two copies of the program never undo each other's changes.
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/FileSystem.h"
 #include "storage/IniDocument.h"
@@ -26,23 +30,54 @@ public:
     void BeginUpdate(const std::string& file);
     void EndUpdate(const std::string& file) noexcept;
 
+    // Between BeginLoad and the matching EndLoad, only the first read of `file` checks it against the disk;
+    // one owner's values then come from one version of the file. Loads nest.
+    void BeginLoad(const std::string& file);
+    void EndLoad(const std::string& file) noexcept;
+
+    // How long a commit waits for another process's lock before it gives up, as for a read-only file. A
+    // save holds the lock for milliseconds; only a copy of the program that hangs holds it longer.
+    static constexpr std::chrono::milliseconds kDefaultLockPatience{3000};
+    void SetLockPatience(std::chrono::milliseconds patience) { m_lockPatience = patience; }
+
     // Forgets every parsed copy.
     void Clear() noexcept { m_files.clear(); }
 
 private:
+    // One write of an update, kept to be made again on a newer version of the file.
+    struct Change {
+        std::string section;
+        std::optional<std::string> key;    // nothing deletes the section
+        std::optional<std::string> value;  // nothing deletes the key
+    };
+
     struct Entry {
         std::optional<platform::FileStamp> stamp;  // nothing while the file does not exist
+        std::string bytes;                         // what the file held when the copy was made
         IniDocument document;
         IniEncoding encoding = IniEncoding::Narrow;
         bool settled = true;  // see platform::FileContent
         int updates = 0;
-        bool dirty = false;
+        int loads = 0;
+        bool checked = false;         // checked against the file in the current load
+        std::vector<Change> changes;  // the writes of the open update
+        bool dirty = false;           // the changes make the copy differ from the file
     };
 
-    Entry* Current(const std::string& file);
-    Entry& ForUpdate(const std::string& file);
+    // What a look at the disk found, compared with a copy.
+    enum class Found { Current, Changed, Missing, Unreadable };
+
+    Entry& Current(const std::string& file);
+    static Found Look(const std::string& file, const Entry& entry,
+                      std::optional<platform::FileContent>& content);
+    static void Take(Entry& entry, platform::FileContent content);
+    static bool Apply(IniDocument& document, const Change& change);
+    bool Rebase(const std::string& file, Entry& entry);
     void Commit(const std::string& file, Entry& entry) noexcept;
+    static bool Replace(const std::string& file, Entry& entry);
+    static void ForgetFile(Entry& entry) noexcept;
+    static void Forget(Entry& entry) noexcept;
 
     std::unordered_map<std::string, Entry> m_files;
-    std::string m_buffer;  // the bytes of the file being committed, kept to spare an allocation per commit
+    std::chrono::milliseconds m_lockPatience = kDefaultLockPatience;
 };

@@ -100,3 +100,7 @@ void cIni_Base::Write(const IniKey<int16_t>& key, int16_t value, const char* pro
 iniFile::Update cIni_Base::BeginSave() const {
     return iniFile::Update(IniPath().value_or(std::string()));
 }
+
+iniFile::Load cIni_Base::BeginLoad() const {
+    return iniFile::Load(IniPath().value_or(std::string()));
+}

@@ -31,6 +31,8 @@ public:
 
     // Opens one update of the settings file: an owner's save becomes a single write of the file.
     iniFile::Update BeginSave() const;
+    // Opens one load of the settings file: an owner's reads check the file once.
+    iniFile::Load BeginLoad() const;
 
 protected:
     cIni_Base(std::string module, std::string section);

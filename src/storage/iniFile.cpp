@@ -38,4 +38,12 @@ Update::~Update() {
     Store().EndUpdate(m_file);
 }
 
+Load::Load(std::string file) : m_file(std::move(file)) {
+    Store().BeginLoad(m_file);
+}
+
+Load::~Load() {
+    Store().EndLoad(m_file);
+}
+
 }  // namespace iniFile

@@ -21,13 +21,28 @@ void Write(const std::string& file, std::string_view section, std::optional<std:
            std::optional<std::string_view> value);
 
 // Gathers every write to `file` made while it lives into one atomic update of the file, committed when
-// the last open update ends (also when a failure leaves the scope).
+// the last open update ends (also when a failure leaves the scope). The commit takes the file's lock,
+// starts from the file as it is then and makes only these writes, so another copy of the program's
+// writes in the meantime are kept. No lock is held while the update is open.
 class Update {
 public:
     explicit Update(std::string file);
     ~Update();
     Update(const Update&) = delete;
     Update& operator=(const Update&) = delete;
+
+private:
+    std::string m_file;
+};
+
+// Makes every read of `file` made while it lives come from one check of the file: the first read compares
+// the file with the engine's copy, the others trust that copy. One owner's load checks the file once.
+class Load {
+public:
+    explicit Load(std::string file);
+    ~Load();
+    Load(const Load&) = delete;
+    Load& operator=(const Load&) = delete;
 
 private:
     std::string m_file;

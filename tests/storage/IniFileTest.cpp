@@ -74,6 +74,8 @@ const ReadCase kReadCases[] = {
     {"Utf8ByteOrderMarkSkipped", "\xEF\xBB\xBF[S]\r\nk=v\r\n", "S", "k", "d", 255, "v"},
     {"Utf16LeReadAsNarrow", std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\x3D\xD8\x00\xDE", 22), "S",
      "k", "d", 255, "\xC3\xA4\xF0\x9F\x98\x80"},
+    {"Utf16BeReadAsNarrow", std::string("\xFE\xFF\0[\0S\0]\0\r\0\n\0k\0=\0\xE4\xD8\x3D\xDE\x00", 22), "S",
+     "k", "d", 255, "\xC3\xA4\xF0\x9F\x98\x80"},
     {"NulBytesPassThrough", std::string("[S]\r\nk=a\0b\r\n", 12), "S", "k", "d", 255,
      std::string("a\0b", 3)}};
 
@@ -126,7 +128,9 @@ const WriteCase kWriteCases[] = {
     {"DeleteSectionOnMissingFileCreatesNothing", nullopt, "S", nullopt, "v", nullopt},
     {"Utf8ByteOrderMarkKept", "\xEF\xBB\xBF[S]\nk=1\n", "S", "k", "2", "\xEF\xBB\xBF[S]\nk=2\r\n"},
     {"Utf16LeWrittenBackAsUtf16Le", std::string("\xFF\xFE[\0S\0]\0", 8), "S", "k", "\xC3\xA4",
-     std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n\0", 22)}};
+     std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n\0", 22)},
+    {"Utf16BeWrittenBackAsUtf16Be", std::string("\xFE\xFF\0[\0S\0]", 8), "S", "k", "\xC3\xA4",
+     std::string("\xFE\xFF\0[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n", 22)}};
 
 INSTANTIATE_TEST_SUITE_P(Rules, IniWrite, ::testing::ValuesIn(kWriteCases),
                          [](const auto& info) { return std::string(info.param.name); });

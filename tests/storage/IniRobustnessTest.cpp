@@ -104,6 +104,20 @@ TEST_F(IniRobustness, AnotherProgramsEditIsSeenAtTheNextRead) {
     EXPECT_EQ(Read("S", "k"), "default");
 }
 
+// A link to a file not there yet is written through, creating the file; a loop of links is not written.
+TEST_F(IniRobustness, ADanglingLinkIsWrittenThroughAndALoopIsLeftAlone) {
+    ONLY_ON_LINUX("symbolic links; Windows creates links only with extra privileges.");
+    fs::create_symlink("real.ini", file);
+    iniFile::Write(file, "S", "k", "1");
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(dir.Read("real.ini"), "[S]\r\nk=1\r\n");
+    fs::create_symlink("loop2.ini", dir.File("loop1.ini"));
+    fs::create_symlink("loop1.ini", dir.File("loop2.ini"));
+    iniFile::Write(dir.File("loop1.ini"), "S", "k", "1");
+    EXPECT_TRUE(fs::is_symlink(dir.File("loop1.ini")) && fs::is_symlink(dir.File("loop2.ini")));
+    EXPECT_EQ(iniFile::Read(dir.File("loop1.ini"), "S", "k", "default", 255), "default");
+}
+
 TEST_F(IniRobustness, WriteFollowsSymbolicLinkAndKeepsPermissions) {
     ONLY_ON_LINUX("symbolic links and permission bits; Windows creates links only with extra privileges.");
     dir.Write("real.ini", "[S]\nk=1\n");
@@ -117,11 +131,12 @@ TEST_F(IniRobustness, WriteFollowsSymbolicLinkAndKeepsPermissions) {
 
 #ifndef _WIN32
 // Lets writes fail once the file would grow beyond `limit` bytes, as a full disk would.
+// The signal keeps its default action, which ends a process that does not expect it.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t limit) {
         getrlimit(RLIMIT_FSIZE, &m_old);
-        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        m_oldHandler = std::signal(SIGXFSZ, SIG_DFL);
         rlimit lowered{limit, m_old.rlim_max};
         setrlimit(RLIMIT_FSIZE, &lowered);
     }
@@ -148,9 +163,18 @@ TEST_F(IniRobustness, WriteFailingHalfWayLeavesTheOldFile) {
         iniFile::Write(file, "S", "k", "new");
     }
     EXPECT_EQ(dir.Read("Pavonel.ini"), old);
-    EXPECT_EQ(EntriesInFolder(), 1u);
     EXPECT_EQ(Read("S", "k"), "old");
+    EXPECT_EQ(EntriesInFolder(), 2u);  // the file and its lock
 #endif
+}
+
+// What crashed saves left beside the file goes at the next write; names that only look alike stay.
+TEST_F(IniRobustness, AWriteRemovesTheLeftoversOfCrashedSaves) {
+    for (const char* name : {".Pavonel.ini.a1B2c3", ".Pavonel.ini.backup1", "Pavonel.ini.a1B2c3"})
+        dir.Write(name, "x");
+    iniFile::Write(file, "S", "k", "new");
+    EXPECT_FALSE(fs::exists(dir.File(".Pavonel.ini.a1B2c3")));
+    EXPECT_EQ(EntriesInFolder(), 4u);  // the file, its lock and the two look-alikes
 }
 
 // An update is written once, when it ends, also when a failure makes it end.

@@ -1,26 +1,41 @@
 #include "platform/FileSystem.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstdlib>
 #include <ctime>
 #include <string_view>
 
 #include "platform/NativePath.h"
+#include "platform/SideFiles.h"
 
 namespace platform {
 namespace {
+
+int64_t g_stampResolution = 0;
+
+int64_t Nanoseconds(const struct timespec& time) {
+    return static_cast<int64_t>(time.tv_sec) * 1000000000 + time.tv_nsec;
+}
+
+int64_t StampTime(const struct timespec& time) {
+    const int64_t ns = Nanoseconds(time);
+    return g_stampResolution > 0 ? ns - ns % g_stampResolution : ns;
+}
 
 FileStamp StampFrom(const struct stat& info) {
     FileStamp stamp;
     stamp.device = static_cast<uint64_t>(info.st_dev);
     stamp.identity = static_cast<uint64_t>(info.st_ino);
     stamp.size = static_cast<uint64_t>(info.st_size);
-    stamp.modified = static_cast<int64_t>(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec;
+    stamp.modified = StampTime(info.st_mtim);
+    stamp.changed = StampTime(info.st_ctim);
     return stamp;
 }
 
@@ -30,17 +45,42 @@ constexpr int64_t kTimeResolutionNs = 2'000'000'000;
 bool IsSettled(const FileStamp& stamp) {
     struct timespec now {};
     clock_gettime(CLOCK_REALTIME, &now);
-    int64_t nowNs = static_cast<int64_t>(now.tv_sec) * 1000000000 + now.tv_nsec;
-    return nowNs - stamp.modified > kTimeResolutionNs;
+    return Nanoseconds(now) - stamp.modified > kTimeResolutionNs;
 }
 
 constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 
-// The file a write must replace: the target of a symbolic link rather than the link itself.
-std::string Resolved(const std::string& path) {
-    char buffer[PATH_MAX];
-    return realpath(path.c_str(), buffer) != nullptr ? std::string(buffer) : path;
+// The longest chain of symbolic links the kernel itself follows.
+constexpr int kMaxLinks = 40;
+
+std::string NameOf(const std::string& path) {
+    return path.substr(path.find_last_of('/') + 1);
 }
+
+// While it lives, a write beyond the file-size limit fails with EFBIG instead of ending the process with
+// SIGXFSZ. A handler the program installed itself is left alone.
+class FileSizeSignalIgnored {
+public:
+    FileSizeSignalIgnored() {
+        sigaction(SIGXFSZ, nullptr, &m_old);
+        if ((m_old.sa_flags & SA_SIGINFO) == 0 && m_old.sa_handler == SIG_DFL) {
+            struct sigaction ignore {};
+            ignore.sa_handler = SIG_IGN;
+            sigemptyset(&ignore.sa_mask);
+            m_restore = sigaction(SIGXFSZ, &ignore, nullptr) == 0;
+        }
+    }
+    ~FileSizeSignalIgnored() {
+        if (m_restore)
+            sigaction(SIGXFSZ, &m_old, nullptr);
+    }
+    FileSizeSignalIgnored(const FileSizeSignalIgnored&) = delete;
+    FileSizeSignalIgnored& operator=(const FileSizeSignalIgnored&) = delete;
+
+private:
+    struct sigaction m_old {};
+    bool m_restore = false;
+};
 
 bool WriteAll(int fd, const std::string& bytes) {
     std::size_t done = 0;
@@ -64,24 +104,23 @@ mode_t NewFileMode() {
 // Writes `bytes` into a new temporary file beside `target` and renames it over `target`. On any error the
 // temporary file is removed and `target` is untouched.
 std::optional<FileStamp> WriteAndRename(const std::string& target, const std::string& bytes, mode_t mode) {
-    std::string folder = FolderOf(target);
-    std::string name = target.substr(target.find_last_of('/') + 1);
-    std::string temporary = folder + "/." + name + ".XXXXXX";
+    std::string temporary = FolderOf(target) + "/" + TemporaryPrefix(NameOf(target)) + "XXXXXX";
+    const FileSizeSignalIgnored failInsteadOfEnding;
     int fd = mkstemp(temporary.data());
     if (fd < 0)
         return std::nullopt;
-    struct stat info {};
-    bool ok = fchmod(fd, mode) == 0 && WriteAll(fd, bytes) && fsync(fd) == 0 && fstat(fd, &info) == 0;
-    ok = close(fd) == 0 && ok;
     // The content is on the disk before the rename, so whatever survives a crash is a complete file.
-    if (ok && rename(temporary.c_str(), target.c_str()) == 0)
+    bool ok = fchmod(fd, mode) == 0 && WriteAll(fd, bytes) && fsync(fd) == 0;
+    ok = ok && rename(temporary.c_str(), target.c_str()) == 0;
+    // The stamp after the rename, which changes the status-change time; the descriptor still names the
+    // file written even if another program replaced it in the meantime.
+    struct stat info {};
+    ok = ok && fstat(fd, &info) == 0;
+    ok = close(fd) == 0 && ok;
+    if (ok)
         return StampFrom(info);
     unlink(temporary.c_str());
     return std::nullopt;
-}
-
-int64_t Nanoseconds(const struct timespec& time) {
-    return static_cast<int64_t>(time.tv_sec) * 1000000000 + time.tv_nsec;
 }
 
 // The birth time where the kernel and the file system record one; statx is the only call that tells it.
@@ -161,8 +200,26 @@ std::optional<FileContent> ReadFile(const std::string& path) {
     return content;
 }
 
+std::string WriteTargetOf(const std::string& path) {
+    std::string current = path;
+    for (int link = 0; link <= kMaxLinks; ++link) {
+        struct stat info {};
+        if (lstat(current.c_str(), &info) != 0 || !S_ISLNK(info.st_mode))
+            return current;
+        std::string target(PATH_MAX, '\0');
+        ssize_t length = readlink(current.c_str(), target.data(), target.size());
+        if (length <= 0 || length >= PATH_MAX)
+            return {};
+        target.resize(static_cast<std::size_t>(length));
+        current = target.front() == '/' ? target : FolderOf(current) + "/" + target;
+    }
+    return {};
+}
+
 bool CanReplaceFile(const std::string& path) {
-    std::string target = Resolved(path);
+    std::string target = WriteTargetOf(path);
+    if (target.empty())
+        return false;
     std::string folder = FolderOf(target);
     struct stat info {};
     if (stat(folder.c_str(), &info) != 0 || !S_ISDIR(info.st_mode))
@@ -176,10 +233,33 @@ bool CanReplaceFile(const std::string& path) {
 }
 
 std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes) {
-    std::string target = Resolved(path);
+    std::string target = WriteTargetOf(path);
+    if (target.empty())
+        return std::nullopt;
     struct stat info {};
     mode_t mode = stat(target.c_str(), &info) == 0 ? (info.st_mode & 07777) : NewFileMode();
     return WriteAndRename(target, bytes, mode);
+}
+
+void RemoveLeftovers(const std::string& path) {
+    const std::string target = WriteTargetOf(path);
+    const std::string folder = FolderOf(target);
+    DIR* entries = target.empty() ? nullptr : opendir(folder.c_str());
+    if (entries == nullptr)
+        return;
+    const std::string name = NameOf(target);
+    while (const dirent* entry = readdir(entries)) {
+        std::string leftover = folder + "/" + entry->d_name;
+        struct stat info {};
+        if (IsTemporaryName(entry->d_name, name) && lstat(leftover.c_str(), &info) == 0 &&
+            S_ISREG(info.st_mode))
+            unlink(leftover.c_str());
+    }
+    closedir(entries);
+}
+
+void SetStampResolution(int64_t nanoseconds) {
+    g_stampResolution = nanoseconds;
 }
 
 }  // namespace platform

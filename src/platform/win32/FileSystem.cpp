@@ -6,8 +6,10 @@
 #undef ReplaceFile
 
 #include <algorithm>
+#include <random>
 
 #include "platform/NativePath.h"
+#include "platform/SideFiles.h"
 
 namespace platform {
 namespace {
@@ -53,12 +55,21 @@ HANDLE OpenExisting(const std::string& path, DWORD access) {
                        nullptr);
 }
 
-FileStamp StampFrom(const BY_HANDLE_FILE_INFORMATION& info) {
+int64_t g_stampResolutionTicks = 0;
+
+int64_t StampTime(int64_t ticks) {
+    return g_stampResolutionTicks > 0 ? ticks - ticks % g_stampResolutionTicks : ticks;
+}
+
+FileStamp StampFrom(HANDLE file, const BY_HANDLE_FILE_INFORMATION& info) {
     FileStamp stamp;
     stamp.device = info.dwVolumeSerialNumber;
     stamp.identity = Combined(info.nFileIndexHigh, info.nFileIndexLow);
     stamp.size = Combined(info.nFileSizeHigh, info.nFileSizeLow);
-    stamp.modified = Ticks(info.ftLastWriteTime);
+    stamp.modified = StampTime(Ticks(info.ftLastWriteTime));
+    FILE_BASIC_INFO basic;
+    if (GetFileInformationByHandleEx(file, FileBasicInfo, &basic, sizeof basic))
+        stamp.changed = StampTime(basic.ChangeTime.QuadPart);
     return stamp;
 }
 
@@ -87,20 +98,40 @@ bool WriteAll(HANDLE file, const std::string& bytes) {
     return true;
 }
 
+std::string NameOf(const std::string& path) {
+    return path.substr(path.find_last_of("\\/") + 1);
+}
+
+// Six random letters and digits, as the POSIX build's mkstemp makes them.
+std::string RandomSuffix() {
+    static constexpr char kAlphabet[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+    static std::mt19937 random(std::random_device{}() ^ GetCurrentProcessId() ^ GetTickCount());
+    std::string suffix(kTemporarySuffixLength, 'X');
+    for (char& c : suffix)
+        c = kAlphabet[random() % (sizeof kAlphabet - 1)];
+    return suffix;
+}
+
 // A new file beside `target` holding `bytes`, flushed to the disk; "" when it could not be made whole.
 std::string WriteTemporary(const std::string& target, const std::string& bytes) {
-    char name[MAX_PATH];
-    if (GetTempFileNameA(FolderOf(target).c_str(), "pav", 0, name) == 0)
+    const std::string start = FolderOf(target) + "\\" + TemporaryPrefix(NameOf(target));
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        const std::string name = start + RandomSuffix();
+        bool ok = false;
+        {
+            const Handle file(CreateFileA(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                          FILE_ATTRIBUTE_NORMAL, nullptr));
+            if (!file.Valid() && GetLastError() == ERROR_FILE_EXISTS)
+                continue;
+            if (!file.Valid())
+                return {};
+            ok = WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
+        }
+        if (ok)
+            return name;
+        DeleteFileA(name.c_str());
         return {};
-    bool ok = false;
-    {
-        const Handle file(
-            CreateFileA(name, GENERIC_WRITE, 0, nullptr, TRUNCATE_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-        ok = file.Valid() && WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
     }
-    if (ok)
-        return name;
-    DeleteFileA(name);
     return {};
 }
 
@@ -136,7 +167,7 @@ std::optional<FileStamp> StampOf(const std::string& path) {
     BY_HANDLE_FILE_INFORMATION info;
     if (!file.Valid() || !GetFileInformationByHandle(file.Get(), &info) || IsFolder(info.dwFileAttributes))
         return std::nullopt;
-    return StampFrom(info);
+    return StampFrom(file.Get(), info);
 }
 
 std::optional<FileContent> ReadFile(const std::string& path) {
@@ -145,7 +176,7 @@ std::optional<FileContent> ReadFile(const std::string& path) {
     if (!file.Valid() || !GetFileInformationByHandle(file.Get(), &info) || IsFolder(info.dwFileAttributes))
         return std::nullopt;
     FileContent content;
-    content.stamp = StampFrom(info);
+    content.stamp = StampFrom(file.Get(), info);
     content.settled = IsSettled(content.stamp);
     content.bytes.resize(static_cast<std::size_t>(content.stamp.size));
     std::size_t done = 0;
@@ -161,6 +192,11 @@ std::optional<FileContent> ReadFile(const std::string& path) {
     // A file that shrank while it was read ends where the reading did.
     content.bytes.resize(done);
     return content;
+}
+
+// Windows links need privileges that the program does not ask for; a path is written as it is.
+std::string WriteTargetOf(const std::string& path) {
+    return path;
 }
 
 bool CanReplaceFile(const std::string& path) {
@@ -191,6 +227,24 @@ std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string&
         return std::nullopt;
     }
     return StampOf(path);
+}
+
+void RemoveLeftovers(const std::string& path) {
+    const std::string folder = FolderOf(path);
+    const std::string name = NameOf(path);
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA((folder + "\\" + TemporaryPrefix(name) + "*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return;
+    do {
+        if (!IsFolder(found.dwFileAttributes) && IsTemporaryName(found.cFileName, name))
+            DeleteFileA((folder + "\\" + found.cFileName).c_str());
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+}
+
+void SetStampResolution(int64_t nanoseconds) {
+    g_stampResolutionTicks = nanoseconds / 100;
 }
 
 }  // namespace platform
