@@ -135,7 +135,9 @@ void Profile::SaveData() try {
     m_settings.Write_Refresh(m_refresh);
     m_settings.Write_TarvolinPath(m_tarvolinPath);
     m_settings.Write_ProfileDescription(m_profileDescription);
-    m_dataChanged = false;
+    // A save that did not reach the file keeps the profile changed, so the user is asked again at the end.
+    if (save.Commit())
+        m_dataChanged = false;
 } catch (...) {
     mError::PassOn("Profile.SaveData");
 }

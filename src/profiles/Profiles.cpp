@@ -178,10 +178,18 @@ bool Profiles::DoesProfileExist(const std::string& strProfileName) const try {
 void Profiles::SaveData(const std::string& strProfiles) try {
     if (strProfiles.empty())
         return;
-    // One replacement of the file for the whole list; what was saved before a failure is kept.
+    // One replacement of the file for the whole list; what was saved before a failure is kept. When the
+    // replacement does not happen, every profile of the list stays changed.
     iniFile::Update save(App().IniPath());
-    for (const std::string& name : mString::Split(strProfiles, ';'))
-        Item(name).SaveData();
+    std::vector<Profile*> saved;
+    for (const std::string& name : mString::Split(strProfiles, ';')) {
+        saved.push_back(&Item(name));
+        saved.back()->SaveData();
+    }
+    if (!save.Commit()) {
+        for (Profile* profile : saved)
+            profile->SetDataChanged(true);
+    }
 } catch (...) {
     mError::PassOn("Profiles.SaveData");
 }

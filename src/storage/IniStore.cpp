@@ -86,12 +86,13 @@ void IniStore::BeginUpdate(const std::string& file) {
     ++Current(file).updates;
 }
 
-void IniStore::EndUpdate(const std::string& file) noexcept {
+bool IniStore::EndUpdate(const std::string& file) noexcept {
     auto found = m_files.find(file);
     if (found == m_files.end() || found->second.updates == 0)
-        return;
+        return true;
     if (--found->second.updates == 0 && !found->second.changes.empty())
-        Commit(file, found->second);
+        return Commit(file, found->second);
+    return true;
 }
 
 void IniStore::BeginLoad(const std::string& file) {
@@ -148,25 +149,28 @@ bool IniStore::Rebase(const std::string& file, Entry& entry) {
     return true;
 }
 
-void IniStore::Commit(const std::string& file, Entry& entry) noexcept {
+bool IniStore::Commit(const std::string& file, Entry& entry) noexcept {
+    bool writable = true;
     try {
         std::optional<platform::FileContent> content;
         if (!entry.dirty && Look(file, entry, content) == Found::Current) {
             // Nothing to write while the file still holds what the copy does.
             Restamp(entry.stamp, entry.settled, content);
             entry.changes.clear();
-            return;
+            return true;
         }
-        const std::optional<platform::FileLock> lock = platform::CanReplaceFile(file)
+        writable = platform::CanReplaceFile(file);
+        const std::optional<platform::FileLock> lock = writable
                                                            ? platform::FileLock::Acquire(file, m_lockPatience)
                                                            : std::optional<platform::FileLock>();
         if (lock && Rebase(file, entry) && Replace(file, entry))
-            return;
+            return true;
     } catch (...) {
         // Out of memory: the file keeps its old content, as with any failed write.
     }
     // The write did not happen, so the copy must not pretend it did: the next read looks at the disk.
     Forget(entry);
+    return !writable;
 }
 
 bool IniStore::Replace(const std::string& file, Entry& entry) {

@@ -26,9 +26,11 @@ public:
                std::optional<std::string_view> value);
 
     // Between BeginUpdate and the matching EndUpdate, writes to `file` stay in memory; EndUpdate commits
-    // them as one replacement of the file. Updates nest.
+    // them as one replacement of the file. Updates nest. EndUpdate is false when it ended the outermost
+    // update and its writes could not be made although the file may be written (another copy kept the
+    // lock, the disk was full); a file nobody may write gives true, as its writes have no effect by design.
     void BeginUpdate(const std::string& file);
-    void EndUpdate(const std::string& file) noexcept;
+    bool EndUpdate(const std::string& file) noexcept;
 
     // Between BeginLoad and the matching EndLoad, only the first read of `file` checks it against the disk;
     // one owner's values then come from one version of the file. Loads nest.
@@ -73,7 +75,7 @@ private:
     static void Take(Entry& entry, platform::FileContent content);
     static bool Apply(IniDocument& document, const Change& change);
     bool Rebase(const std::string& file, Entry& entry);
-    void Commit(const std::string& file, Entry& entry) noexcept;
+    bool Commit(const std::string& file, Entry& entry) noexcept;
     static bool Replace(const std::string& file, Entry& entry);
     static void ForgetFile(Entry& entry) noexcept;
     static void Forget(Entry& entry) noexcept;

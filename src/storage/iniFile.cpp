@@ -35,7 +35,15 @@ Update::Update(std::string file) : m_file(std::move(file)) {
 }
 
 Update::~Update() {
-    Store().EndUpdate(m_file);
+    if (m_open)
+        Store().EndUpdate(m_file);
+}
+
+bool Update::Commit() {
+    if (!m_open)
+        return true;
+    m_open = false;
+    return Store().EndUpdate(m_file);
 }
 
 Load::Load(std::string file) : m_file(std::move(file)) {

@@ -31,8 +31,14 @@ public:
     Update(const Update&) = delete;
     Update& operator=(const Update&) = delete;
 
+    // Ends the update now. False when this was the outermost update and its writes did not reach a file
+    // that may be written (another copy of the program kept the lock too long, the disk was full): the
+    // caller must not count them as saved. An update inside another one leaves that to the outer one.
+    bool Commit();
+
 private:
     std::string m_file;
+    bool m_open = true;
 };
 
 // Makes every read of `file` made while it lives come from one check of the file: the first read compares

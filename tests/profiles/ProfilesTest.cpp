@@ -5,6 +5,9 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
+#include "platform/FileLock.h"
+#include "storage/IniStore.h"
+#include "storage/iniFile.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
 
@@ -154,6 +157,27 @@ TEST_F(ProfilesTest, StorableCaptionsComeBackUnchanged) {
     for (const char* refused : {"", " Race", "Race ", "a]b", "a;b", "a=b", "a\r\nb", "a\tb", "a\x7F"})
         EXPECT_FALSE(Profile::IsStorableCaption(refused)) << refused;
     EXPECT_FALSE(Profile::IsStorableCaption(longest + "x"));
+}
+
+// Another copy hangs holding the settings file's lock: nothing is written, and the profiles stay changed,
+// so the user is asked again before the program ends.
+TEST_F(ProfilesTest, ASaveThatDoesNotReachTheFileKeepsTheProfilesChanged) {
+    WriteIni("[profile_A]\r\nREFRESH=1\r\n");
+    profiles.LoadData();
+    profiles.Item("profile_A").SetRefresh(2);
+    iniFile::Store().SetLockPatience(std::chrono::milliseconds(50));
+    {
+        const auto frozen = platform::FileLock::Acquire(g_cApp->IniPath(), std::chrono::milliseconds(0));
+        ASSERT_TRUE(frozen);
+        profiles.SaveData("profile_A");
+        EXPECT_TRUE(profiles.Item("profile_A").DataChanged());
+        profiles.Item("profile_A").SaveData();
+        EXPECT_TRUE(profiles.Item("profile_A").DataChanged());
+    }
+    iniFile::Store().SetLockPatience(IniStore::kDefaultLockPatience);
+    EXPECT_EQ(ReadIni(), "[profile_A]\r\nREFRESH=1\r\n");
+    profiles.SaveData("profile_A");
+    EXPECT_FALSE(profiles.Item("profile_A").DataChanged());
 }
 
 }  // namespace
