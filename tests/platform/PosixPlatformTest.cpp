@@ -18,6 +18,7 @@
 
 #include "platform/ChildProcessTest.h"
 #include "support/StandInGame.h"
+#include "support/TempDir.h"
 
 namespace fs = std::filesystem;
 
@@ -193,11 +194,16 @@ TEST_F(PosixPlatformTest, AFileThatCannotBeStartedGetsTheShellsCode) {
     }
 }
 
-// The options window proposes this editor for the log file: it must be there to be started.
-TEST(TextEditorTest, TheProposedEditorIsAnInstalledProgram) {
-    PosixPlatform platform;
-    const std::string editor = platform.WindowsDirectory() + "/" + platform.TextEditorName();
-    EXPECT_EQ(access(editor.c_str(), X_OK), 0) << editor;
+// The options window proposes this editor for the log file: an installed desktop editor, in the order of
+// the list, else the desktop's own handler.
+TEST(TextEditorTest, TheFirstInstalledEditorIsProposed) {
+    TempDir bin;
+    EXPECT_EQ(platform::InstalledTextEditor(bin.Path().string()), "xdg-open");
+    for (const char* name : {"mousepad", "kate", "gedit"})
+        bin.Write(name, "#!/bin/sh\n");
+    fs::permissions(bin.Path() / "mousepad", fs::perms::owner_exec, fs::perm_options::add);
+    fs::permissions(bin.Path() / "kate", fs::perms::owner_exec, fs::perm_options::add);
+    EXPECT_EQ(platform::InstalledTextEditor(bin.Path().string()), "kate");
 }
 
 }  // namespace

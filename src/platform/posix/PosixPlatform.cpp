@@ -159,15 +159,22 @@ std::string PosixPlatform::WindowsDirectory() {
 }
 
 std::string PosixPlatform::TextEditorName() {
+    return platform::InstalledTextEditor(WindowsDirectory());
+}
+
+namespace platform {
+
+std::string InstalledTextEditor(const std::string& folder) {
     static constexpr const char* kEditors[] = {
         "gnome-text-editor", "gedit", "kate", "kwrite", "mousepad", "xed", "pluma", "geany", "featherpad"};
-    const std::string folder = WindowsDirectory() + "/";
     for (const char* editor : kEditors) {
-        if (access((folder + editor).c_str(), X_OK) == 0)
+        if (access((folder + "/" + editor).c_str(), X_OK) == 0)
             return editor;
     }
     return "xdg-open";
 }
+
+}  // namespace platform
 
 bool PosixPlatform::CreateNamedMutex(const std::string& name) {
     return platform::HoldRunningMarker(name);

@@ -5,6 +5,13 @@
 
 #include "platform/Platform.h"
 
+namespace platform {
+
+// The first of the desktops' own text editors that `folder` holds as a program, else xdg-open.
+std::string InstalledTextEditor(const std::string& folder);
+
+}  // namespace platform
+
 class PosixPlatform : public Platform {
 public:
     std::string ProgramDirectory() override;
@@ -26,8 +33,8 @@ public:
     // The system's programs live in /usr/bin, so a program proposed from there exists.
     std::string WindowsDirectory() override;
 
-    // The first of the desktops' own text editors that is installed, else xdg-open, which opens the log
-    // file in whatever the desktop uses for text.
+    // The first of the desktops' own text editors installed in WindowsDirectory(), else xdg-open, which
+    // opens the log file in whatever the desktop uses for text.
     std::string TextEditorName() override;
 
     // A lock file held for the process's life (see RunningMarker.h for where it is and how to test it).

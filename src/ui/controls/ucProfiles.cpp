@@ -32,7 +32,7 @@ ucProfiles::ucProfiles(QWidget* parent) : QWidget(parent) {
     setFocusProxy(ListView1);
     connect(ListView1->header(), &QHeaderView::sortIndicatorChanged, this, &ucProfiles::SortByColumn);
     connect(ListView1, &QTreeWidget::itemSelectionChanged, this, &ucProfiles::SelectionChanged);
-    connect(ListView1, &QTreeWidget::itemActivated, this, &ucProfiles::RowActivated);
+    connect(ListView1, &QTreeWidget::itemDoubleClicked, this, &ucProfiles::RowDoubleClicked);
     InitControl();
 }
 
@@ -116,6 +116,8 @@ void ucProfiles::SelectProfile(const std::string& name) try {
 
 // The header turns the order round at a second click on the same column.
 void ucProfiles::SortByColumn(int column, Qt::SortOrder order) try {
+    if (column < 0)
+        return;  // the list was refilled in the collection's order
     ListView1->sortItems(column, order);
     ListView1->header()->setSortIndicatorShown(true);
 } catch (...) {

@@ -38,8 +38,8 @@ public:
 
 signals:
     void SelectionChanged();
-    // A row was double-clicked or Enter was pressed on it.
-    void RowActivated();
+    // A row was double-clicked.
+    void RowDoubleClicked();
 
 private:
     void SortByColumn(int column, Qt::SortOrder order);

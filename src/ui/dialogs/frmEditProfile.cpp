@@ -83,18 +83,22 @@ void frmEditProfile::TranslateDialog() try {
 }
 
 bool frmEditProfile::CheckInput() try {
+    // A locked name is the profile's own and was stored before; only a new one can be refused.
     const std::string name = QtText::FromQt(txtName->text());
     const char* problem = nullptr;
+    QLineEdit* offending = txtName;
     if (name.empty())
         problem = "MSG_PROFILE_NAME_MISSED";
-    else if (!Profile::IsStorableCaption(name))
+    else if (lngEditMode == kNewProfile && !Profile::IsStorableCaption(name))
         problem = "MSG_PROFILE_NAME_INVALID";
-    else if (txtDescription->text().isEmpty())
+    else if (txtDescription->text().isEmpty()) {
         problem = "MSG_PROFILE_DESCRIPTION_MISSED";
+        offending = txtDescription;
+    }
     if (problem == nullptr)
         return true;
     Ui().MsgBox(TranslateDialogItem(problem), vbOKOnly);
-    (problem == std::string("MSG_PROFILE_DESCRIPTION_MISSED") ? txtDescription : txtName)->setFocus();
+    offending->setFocus();
     return false;
 } catch (...) {
     mError::PassOn("frmEditProfile.CheckInput");

@@ -24,13 +24,9 @@
 
 namespace {
 
-constexpr const char* kSection = "ERROR_DIALOG";
-
 // A failure may arrive before the translation engine exists; the window then speaks English.
-QString DialogText(const char* section, const char* key, const char* english) {
-    if (!g_cApp || !g_cTranslate)
-        return QString::fromUtf8(english);
-    return QtText::ToQt(g_cTranslate->TranslateEx(section, key));
+bool CanTranslate() {
+    return g_cApp && g_cTranslate;
 }
 
 // The texts of the report are worth copying, so every label of it can be selected.
@@ -163,23 +159,27 @@ void frmError::SetTabOrder() {
         setTabOrder(order[i], order[i + 1]);
 }
 
+QString frmError::DialogText(const char* key, const char* english) const {
+    return CanTranslate() ? ItemText(key) : QString::fromUtf8(english);
+}
+
 void frmError::TranslateDialog() {
-    setWindowTitle(DialogText(kSection, "DIALOG_CAPTION", "Error Report"));
-    TabStrip1->setTabText(kReportPage, DialogText(kSection, "TAB_REPORT", "Report"));
-    TabStrip1->setTabText(kContactPage, DialogText(kSection, "TAB_CONTACT", "Contact"));
+    setWindowTitle(DialogText("DIALOG_CAPTION", "Error Report"));
+    TabStrip1->setTabText(kReportPage, DialogText("TAB_REPORT", "Report"));
+    TabStrip1->setTabText(kContactPage, DialogText("TAB_CONTACT", "Contact"));
     lblNote->setText(QStringLiteral("Please send an E-Mail with the following text to ") +
                      QString::fromUtf8(Version::kContactEmail));
-    lblContactInfo->setText(DialogText(kSection, "LBL_CONTACT_INFO",
+    lblContactInfo->setText(DialogText("LBL_CONTACT_INFO",
                                        "Please help us fix this error: click Copy to put the report on the "
                                        "clipboard, then click Write E-mail and paste the report into the new "
                                        "message."));
     MnemonicSet keys;
-    lblDescription->setText(keys.Add(DialogText(kSection, "LBL_DESCRIPTION", "An error has occurred:")));
-    cmdCopy->setText(keys.Add(DialogText(kSection, "BTN_COPY", "Copy")));
-    Command1->setText(keys.Add(DialogText(kSection, "BTN_SEND_MAIL", "Write E-mail")));
-    cmdContact->setText(keys.Add(DialogText(kSection, "BTN_CONTACT", "Contact")));
-    cmdDetails->setText(keys.Add(DialogText(kSection, "BTN_DETAILS", "Details")));
-    cmdClose->setText(keys.Add(DialogText("GLOBAL", "BTN_CLOSE", "Close")));
+    lblDescription->setText(keys.Add(DialogText("LBL_DESCRIPTION", "An error has occurred:")));
+    cmdCopy->setText(keys.Add(DialogText("BTN_COPY", "Copy")));
+    Command1->setText(keys.Add(DialogText("BTN_SEND_MAIL", "Write E-mail")));
+    cmdContact->setText(keys.Add(DialogText("BTN_CONTACT", "Contact")));
+    cmdDetails->setText(keys.Add(DialogText("BTN_DETAILS", "Details")));
+    cmdClose->setText(keys.Add(CanTranslate() ? GlobalText("BTN_CLOSE") : QStringLiteral("Close")));
 }
 
 void frmError::InitDialog(const ErrorReport& report) try {

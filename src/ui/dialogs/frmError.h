@@ -43,6 +43,8 @@ private:
     QWidget* CreateButtonRow();
     void SetTabOrder();
     void TranslateDialog() override;
+    // The text of `key` in the window's section, or `english` while there is nothing to translate with.
+    QString DialogText(const char* key, const char* english) const;
     void ShowPage(Page page);
 
     ErrorReport m_report;

@@ -8,9 +8,15 @@
 #include "app/UserInterface.h"
 #include "error/mError.h"
 #include "profiles/Profiles.h"
-#include "ui/QtText.h"
 #include "ui/controls/ucProfiles.h"
 #include "ui/dialogs/MnemonicSet.h"
+
+namespace {
+
+constexpr const char* kHelpText =
+    "If you don't know what to do, select the Standard-Profile and then click on the ok-button.";
+
+}  // namespace
 
 frmLoadProfile::frmLoadProfile(QWidget* parent)
     : ModalDialog("frmLoadProfile", "LOAD_PROFILE_DIALOG", parent) {
@@ -25,7 +31,7 @@ frmLoadProfile::frmLoadProfile(QWidget* parent)
     connect(cmdCancel, &QPushButton::clicked, this, &frmLoadProfile::cmdCancel_Click);
     connect(cmdHelp, &QPushButton::clicked, this, &frmLoadProfile::cmdHelp_Click);
     connect(ucProfiles1, &ucProfiles::SelectionChanged, this, &frmLoadProfile::ucProfiles1_SelectionChanged);
-    connect(ucProfiles1, &ucProfiles::RowActivated, this, &frmLoadProfile::cmdOk_Click);
+    connect(ucProfiles1, &ucProfiles::RowDoubleClicked, this, &frmLoadProfile::cmdOk_Click);
 
     QHBoxLayout* buttons = ButtonRow({cmdOk, cmdCancel});
     buttons->insertWidget(0, cmdHelp);
@@ -42,7 +48,7 @@ void frmLoadProfile::InitDialog() try {
     ucProfiles1->FillProfileList(false);
     ucProfiles1->SetMultiSelect(false);
     ucProfiles1->SelectProfile(Profiles::kStandardProfileName);
-    ucProfiles1_SelectionChanged();
+    EnableOk();
     TranslateDialog();
     ucProfiles1->setFocus();
 } catch (...) {
@@ -64,9 +70,12 @@ void frmLoadProfile::TranslateDialog() try {
     mError::PassOn("frmLoadProfile.TranslateDialog");
 }
 
-void frmLoadProfile::ucProfiles1_SelectionChanged() try {
+// OK needs a chosen profile.
+void frmLoadProfile::EnableOk() {
     cmdOk->setEnabled(ucProfiles1->SelectedProfile() != nullptr);
-} catch (...) {
+}
+
+void frmLoadProfile::ucProfiles1_SelectionChanged() try { EnableOk(); } catch (...) {
     mError::ShowError("frmLoadProfile.ucProfiles1_SelectionChanged");
 }
 

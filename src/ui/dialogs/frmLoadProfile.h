@@ -13,10 +13,6 @@ class frmLoadProfile : public ModalDialog {
     Q_OBJECT
 
 public:
-    // The text of the help button's message.
-    static constexpr const char* kHelpText =
-        "If you don't know what to do, select the Standard-Profile and then click on the ok-button.";
-
     explicit frmLoadProfile(QWidget* parent = nullptr);
 
     void InitDialog();
@@ -33,6 +29,8 @@ private slots:
     void ucProfiles1_SelectionChanged();
 
 private:
+    void EnableOk();
+
     QLabel* lblInfo;
     ucProfiles* ucProfiles1;
     QPushButton* cmdHelp;

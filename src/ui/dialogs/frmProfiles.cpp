@@ -7,7 +7,6 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
-#include "ui/QtText.h"
 #include "ui/controls/ucProfiles.h"
 
 frmProfiles::frmProfiles(QWidget* parent) : ModalDialog("frmProfiles", "PROFILES_DIALOG", parent) {

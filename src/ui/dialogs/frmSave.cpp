@@ -8,7 +8,6 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
-#include "ui/QtText.h"
 #include "ui/controls/ucProfiles.h"
 #include "ui/dialogs/MnemonicSet.h"
 

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -71,6 +72,17 @@ TEST_F(frmOptionsTest, BrowsingFromAnEmptyFieldProposesTheSystemsEditor) {
     QTest::mouseClick(Find(dialog, "cmdEditorPath"), Qt::LeftButton);
     EXPECT_EQ(modalWindows, 1);
     EXPECT_EQ(path()->Text(), "/usr/bin/write.exe");
+}
+
+TEST_F(frmOptionsTest, BrowsingPutsTheChosenEditorIntoTheField) {
+    const std::string chosen = dir.Write("editor.exe", "MZ");
+    answer = [&](QDialog& shown) {
+        auto& chooser = dynamic_cast<QFileDialog&>(shown);
+        chooser.selectFile(QtText::ToQt(chosen));
+        shown.accept();
+    };
+    QTest::mouseClick(Find(dialog, "cmdEditorPath"), Qt::LeftButton);
+    EXPECT_EQ(path()->Text(), QtText::ToQt(chosen));
 }
 
 TEST_F(frmOptionsTest, TheLabelEndsWithAColonEvenWithoutItsText) {
