@@ -31,68 +31,12 @@ protected:
     frmOptions dialog;
 };
 
-TEST_F(frmOptionsTest, ShowsTheOptionsWithLabelledFields) {
+// The options as they are, the label as the path field's buddy, Tab in reading order, Alt+T into the field.
+TEST_F(frmOptionsTest, ShowsTheOptionsAndWalksThemByKeyboard) {
     EXPECT_EQ(dialog.windowTitle(), "Options");
     EXPECT_EQ(path()->Text(), "/usr/bin/kate");
     EXPECT_TRUE(box()->isChecked());
     EXPECT_EQ(Find<QLabel>(dialog, "lblEditor")->text().remove('&'), "Text editor for the log file:");
-    EXPECT_EQ(Find<QLabel>(dialog, "lblEditor")->buddy(), path());
-}
-
-TEST_F(frmOptionsTest, CancelKeepsTheOptionsAndOkCopiesThemBack) {
-    path()->SetText("/opt/editor");
-    box()->setChecked(false);
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    EXPECT_TRUE(dialog.Cancel());
-    EXPECT_EQ(options().EditorPath(), "/usr/bin/kate");
-    EXPECT_TRUE(options().ShowStartTarvolinDialog());
-    EXPECT_FALSE(options().DataChanged());
-
-    dialog.InitDialog();
-    dialog.show();
-    path()->SetText("/opt/editor");
-    box()->setChecked(false);
-    QTest::mouseClick(Find(dialog, "cmdOk"), Qt::LeftButton);
-    EXPECT_FALSE(dialog.Cancel());
-    EXPECT_EQ(options().EditorPath(), "/opt/editor");
-    EXPECT_FALSE(options().ShowStartTarvolinDialog());
-    EXPECT_TRUE(options().DataChanged());
-    EXPECT_EQ(ReadIni(), "[OPTIONS]\r\nEDITORPATH=/usr/bin/kate\r\nSTARTTARVOLINDIALOG=1\r\n");
-}
-
-TEST_F(frmOptionsTest, OkWithoutChangesChangesNothing) {
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    EXPECT_FALSE(dialog.Cancel());
-    EXPECT_FALSE(options().DataChanged());
-}
-
-// A cancelled chooser hands back its proposal: the system's editor when the field names no file.
-TEST_F(frmOptionsTest, BrowsingFromAnEmptyFieldProposesTheSystemsEditor) {
-    path()->SetText("");
-    QTest::mouseClick(Find(dialog, "cmdEditorPath"), Qt::LeftButton);
-    EXPECT_EQ(modalWindows, 1);
-    EXPECT_EQ(path()->Text(), "/usr/bin/write.exe");
-}
-
-TEST_F(frmOptionsTest, BrowsingPutsTheChosenEditorIntoTheField) {
-    const std::string chosen = dir.Write("editor.exe", "MZ");
-    answer = [&](QDialog& shown) {
-        auto& chooser = dynamic_cast<QFileDialog&>(shown);
-        chooser.selectFile(QtText::ToQt(chosen));
-        shown.accept();
-    };
-    QTest::mouseClick(Find(dialog, "cmdEditorPath"), Qt::LeftButton);
-    EXPECT_EQ(path()->Text(), QtText::ToQt(chosen));
-}
-
-TEST_F(frmOptionsTest, TheLabelEndsWithAColonEvenWithoutItsText) {
-    WriteLanguage("EN", "[OPTIONS_DIALOG]\r\n");
-    dialog.TranslateDialog();
-    EXPECT_EQ(Find<QLabel>(dialog, "lblEditor")->text().remove('&'), "<NO TEXT AVAILABLE>:");
-}
-
-// Tab walks the window in reading order, and the label's mnemonic reaches the path field.
-TEST_F(frmOptionsTest, KeyboardReachesEveryControlInReadingOrder) {
     QApplication::setActiveWindow(&dialog);
     QStringList order;
     for (int i = 0; i < 5; ++i) {
@@ -103,6 +47,46 @@ TEST_F(frmOptionsTest, KeyboardReachesEveryControlInReadingOrder) {
                                   "cmdCancel"}));
     QTest::keyClick(&dialog, Qt::Key_T, Qt::AltModifier);
     EXPECT_EQ(QApplication::focusWidget()->parentWidget(), path());
+}
+
+// OK unchanged changes nothing; Escape drops the edits; OK copies them into the options, not into the file.
+TEST_F(frmOptionsTest, OnlyOkCopiesTheFieldsBack) {
+    QTest::keyClick(&dialog, Qt::Key_Return);
+    EXPECT_FALSE(dialog.Cancel());
+    EXPECT_FALSE(options().DataChanged());
+    for (const bool confirm : {false, true}) {
+        dialog.InitDialog();
+        dialog.show();
+        path()->SetText("/opt/editor");
+        box()->setChecked(false);
+        QTest::keyClick(&dialog, confirm ? Qt::Key_Return : Qt::Key_Escape);
+        EXPECT_EQ(dialog.Cancel(), !confirm);
+        EXPECT_EQ(options().EditorPath(), confirm ? "/opt/editor" : "/usr/bin/kate");
+        EXPECT_EQ(options().ShowStartTarvolinDialog(), !confirm);
+        EXPECT_EQ(options().DataChanged(), confirm);
+    }
+    EXPECT_EQ(ReadIni(), "[OPTIONS]\r\nEDITORPATH=/usr/bin/kate\r\nSTARTTARVOLINDIALOG=1\r\n");
+}
+
+// A cancelled chooser hands back its proposal, the system's editor when the field names no file; a chosen
+// file replaces the field.
+TEST_F(frmOptionsTest, BrowsingFillsTheField) {
+    path()->SetText("");
+    QTest::mouseClick(Find(dialog, "cmdEditorPath"), Qt::LeftButton);
+    EXPECT_EQ(path()->Text(), "/usr/bin/write.exe");
+    const std::string chosen = dir.Write("editor.exe", "MZ");
+    answer = [&](QDialog& shown) {
+        dynamic_cast<QFileDialog&>(shown).selectFile(QtText::ToQt(chosen));
+        shown.accept();
+    };
+    QTest::mouseClick(Find(dialog, "cmdEditorPath"), Qt::LeftButton);
+    EXPECT_EQ(path()->Text(), QtText::ToQt(chosen));
+}
+
+TEST_F(frmOptionsTest, TheLabelEndsWithAColonEvenWithoutItsText) {
+    WriteLanguage("EN", "[OPTIONS_DIALOG]\r\n");
+    dialog.TranslateDialog();
+    EXPECT_EQ(Find<QLabel>(dialog, "lblEditor")->text().remove('&'), "<NO TEXT AVAILABLE>:");
 }
 
 }  // namespace
