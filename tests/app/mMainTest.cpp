@@ -5,9 +5,9 @@
 #include <filesystem>
 
 #include "app/Application.h"
+#include "app/ErrorReport.h"
 #include "app/PublicObjects.h"
 #include "app/mMutex.h"
-#include "app/ErrorReport.h"
 #include "error/mError.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
