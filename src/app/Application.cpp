@@ -96,6 +96,11 @@ std::string Application::AppVersionText() {
            std::to_string(Version::kRevision);
 }
 
+std::string Application::VersionText() {
+    return std::to_string(Version::kMajor) + "." + std::to_string(Version::kMinor) + "." +
+           std::to_string(Version::kRevision);
+}
+
 void Application::SaveAppSettings() try {
     iniFile::Update save = m_settings->BeginSave();
     m_settings->Write_FileVersion(kFileVersion);

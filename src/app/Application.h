@@ -70,6 +70,8 @@ public:
 
     // The program's own version with the minor number first, as "APPVERSION" stores it.
     static std::string AppVersionText();
+    // The program's own version as people read it: major, minor and revision.
+    static std::string VersionText();
 
 private:
     void ComputeDirectories();

@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "Version.h"
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/mMain.h"
@@ -46,8 +45,7 @@ int32_t PlainErrorNumber(int32_t number) {
 ErrorReport ComposeErrorReport(const Failure& failure) {
     Context context = GatherContext();
     std::string text;
-    text += "Pavonel-Version: " + std::to_string(Version::kMajor) + "." + std::to_string(Version::kMinor) +
-            "." + std::to_string(Version::kRevision) + kCrLf + kCrLf;
+    text += "Pavonel-Version: " + Application::VersionText() + kCrLf + kCrLf;
     text += "Description:" + std::string(kCrLf) + failure.Description() + kCrLf + kCrLf;
     text += "Err.-Number: " + std::to_string(failure.Number()) + " (" +
             std::to_string(PlainErrorNumber(failure.Number())) + ")" + kCrLf + kCrLf;

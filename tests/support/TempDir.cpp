@@ -36,6 +36,8 @@ std::string TempDir::File(const std::string& name) const {
 
 std::string TempDir::Write(const std::string& name, const std::string& bytes) const {
     std::string path = File(name);
+    std::error_code ignored;
+    std::filesystem::create_directories(platform::PathOf(path).parent_path(), ignored);
     std::ofstream(platform::PathOf(path), std::ios::binary) << bytes;
     return path;
 }

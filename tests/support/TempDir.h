@@ -16,7 +16,8 @@ public:
     // The path of `name` ("/" between its parts) inside the folder, as the program's own texts spell it.
     std::string File(const std::string& name) const;
 
-    // Writes `bytes` to `name` inside the folder, exactly as given; returns the full path.
+    // Writes `bytes` to `name` inside the folder (making its folders), exactly as given; returns the full
+    // path.
     std::string Write(const std::string& name, const std::string& bytes) const;
 
     // The bytes of `name` inside the folder (empty when it cannot be read).
