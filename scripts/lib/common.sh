@@ -35,8 +35,9 @@ pavonel_build() {
 
 PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev fonts-dejavu-core)
 # What the launcher itself needs at run time on Linux: xdg-open opens folders, documents and web pages, and is
-# the text editor proposed when no desktop editor is installed.
-PAVONEL_RUN_PACKAGES=(xdg-utils)
+# the text editor proposed when no desktop editor is installed; Qt's translations give its own texts (the
+# file chooser's buttons) in the chosen language.
+PAVONEL_RUN_PACKAGES=(xdg-utils qt6-translations-l10n)
 PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format)
 # The Windows build: the compiler, GoogleTest's sources to build for Windows, and Wine to run the tests.
 PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64)

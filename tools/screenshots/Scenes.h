@@ -7,5 +7,7 @@ namespace Scenes {
 
 void RenderDialogs(ScreenshotSession& session);
 void RenderControls(ScreenshotSession& session);
+// Needs the sample profiles of RenderDialogs.
+void RenderMainWindow(ScreenshotSession& session);
 
 }  // namespace Scenes

@@ -1,0 +1,50 @@
+#include "ui/Main.h"
+
+#include <QApplication>
+#include <memory>
+
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "app/mMain.h"
+#include "app/mMutex.h"
+#include "error/mError.h"
+#include "translate/cTranslate.h"
+#include "ui/QtTranslation.h"
+#include "ui/QtUserInterface.h"
+#include "ui/main/frmMain.h"
+
+frmMain* Main() {
+    frmMain* window = nullptr;
+    try {
+        mMutex::CreateMutex();
+        g_cApp = std::make_unique<Application>();
+        g_cTranslate = std::make_unique<cTranslate>();
+        if (!g_cApp->LoadData()) {
+            mMain::ClosePublicObjects();
+            return nullptr;
+        }
+        QtTranslation::Follow(g_cApp->Options().Language());
+        window = new frmMain;
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->InitDialog();
+        window->LoadData(*g_cApp->ActiveProfile());
+        window->show();
+        return window;
+    } catch (...) {
+        mError::ShowError("mMain.Main");
+    }
+    delete window;
+    mMain::ClosePublicObjects();
+    return nullptr;
+}
+
+int RunProgram(int argc, char** argv) {
+    QApplication application(argc, argv);
+    application.setApplicationName(QStringLiteral("Pavonel"));
+    QtUserInterface ui;
+    InstallUserInterface(&ui);
+    const int status = Main() != nullptr ? application.exec() : 0;
+    mMain::ClosePublicObjects();
+    InstallUserInterface(nullptr);
+    return status;
+}

@@ -1,0 +1,208 @@
+// The main window: the active profile on five pages behind a row of tabs, the start button, the version
+// line and the menus. It holds no settings of its own: LoadData shows a profile in the controls and
+// RefreshProfileData writes the controls back at the moments that need it (save, start, switch, close).
+// Its rules that need no widget live in mainwindow/ (frmMainRules, frmMainLists); this class gathers its
+// controls' values and applies the results. The code is split by concern:
+//   frmMain.cpp          building the pages and placing them inside the tab area
+//   frmMainBinding.cpp   LoadData, RefreshProfileData, the lists and the resolution fields
+//   frmMainCommands.cpp  the buttons, the menu commands and closing
+//   frmMainMenus.cpp     building the menus, the profile and language menus
+//   frmMainTexts.cpp     every caption and the version line
+#pragma once
+
+#include <QMainWindow>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "mainwindow/MainWindowValues.h"
+
+class Profile;
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QKeyEvent;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QMenu;
+class QPushButton;
+class QRadioButton;
+class ucPath;
+class ucResolutionPreview;
+class ucTab;
+class ucTabArea;
+
+class frmMain : public QMainWindow {
+    Q_OBJECT
+
+public:
+    static constexpr int kTabCount = 5;
+    // The entries of the standard resolutions and of the refresh rates.
+    static constexpr int kListEntries = 5;
+
+    explicit frmMain(QWidget* parent = nullptr);
+
+    // Fills the two lists, translates the window, builds the profile, language and accessories menus and
+    // shows the first page.
+    void InitDialog();
+
+    // Makes `profile` active and shows it; true when it ran to the end.
+    bool LoadData(Profile& profile);
+    // Corrects and checks the input, writes it into the active profile and compares both command lines.
+    void RefreshProfileData();
+    void SaveData();
+
+    // The window's own composition of the game's command line, from its controls.
+    std::string GetCmdLineParameters() const;
+
+    void TranslateDialog();
+    void UpdateVersionLabels();
+
+    // Activates tab `index` and shows page index + 1.
+    void ucTab1_Click(int index);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // Building (frmMain.cpp).
+    QWidget* CreateTabbedPages();
+    QWidget* CreateGamePage();
+    QWidget* CreateScenarioPage();
+    QWidget* CreateDisplayPage();
+    QWidget* CreateRefreshPage();
+    QWidget* CreateExtraPage();
+    QWidget* CreateStartRow();
+    QWidget* NewPage(int index);
+    void PlaceTabs();
+    void ActivatePage(int page);
+    void Form_Load();
+
+    // Binding (frmMainBinding.cpp).
+    MainWindowValues Values() const;
+    void ShowValues(const Profile& profile);
+    void CheckData();
+    void CorrectInput();
+    void FillScenarioFilesList();
+    void FillDatenPakList();
+    void lstResolution_Click();
+    void ResolutionField_Edited();
+    bool ResolutionField_KeyPress(const QKeyEvent& event);
+    void ShowCommandLine();
+    void ConnectBinding();
+
+    // Commands (frmMainCommands.cpp).
+    void cmdStart_Click();
+    void cmdLogfile_Click();
+    void cmdLogfile2_Click();
+    void cmdOpenTarvoDir_Click();
+    void cmdSelectTarvoPath_Click();
+    void mnuFile_Save_Click();
+    void mnuFile_Quit_Click();
+    void mnuFile_SendFeedback_Click();
+    void mnuProfile_New_Click();
+    void mnuProfile_Edit_Click();
+    void mnuProfile_List_Click(int index);
+    void mnuProfil_Manager_Click();
+    void mnuEditCopy_CmdLine_Click();
+    void mnuExtra_Options_Click();
+    void mnuExtra_Accessories_LanguageEditor_Click();
+    void mnuOptions_Lang_Item_Click(int index);
+    void mnuHelp_FAQ_Click();
+    void mnuHelp_FAQ_EN_Click();
+    void mnuHelp_Webpage_Click();
+    void mnuHelp_About_Click();
+    void OpenLogFile();
+    bool Form_QueryUnload();
+    void Form_Unload();
+    void ConnectCommands();
+
+    // Menus (frmMainMenus.cpp).
+    void CreateMenus();
+    QAction* NewAction(QMenu* menu, const char* name);
+    void FillProfileList();
+    void InitLanguageList();
+    void HighligthSelectedLanguage();
+    void RefreshAccessoriesMenu();
+    void HideFAQMenu();
+
+    // Texts (frmMainTexts.cpp).
+    void TranslateMenus();
+    void TranslatePages();
+
+    std::array<ucTab*, kTabCount> ucTab1{};
+    ucTabArea* Shape1 = nullptr;
+    std::array<QWidget*, kTabCount + 1> picPage{};  // pages 1 to 5; index 0 unused
+    QWidget* tabHost = nullptr;
+
+    QLabel* lblTarvoPath = nullptr;
+    ucPath* txtTarvolinPath = nullptr;
+    QPushButton* cmdSelectTarvoPath = nullptr;
+    QCheckBox* ckFreeplay = nullptr;
+    QLabel* lblFreeplayMode_Desc = nullptr;
+    QCheckBox* ckLogMessages = nullptr;
+    QLabel* lblLogMsg = nullptr;
+    QPushButton* cmdLogfile2 = nullptr;
+
+    QLabel* lblScenarios = nullptr;
+    QComboBox* txtScenario = nullptr;
+    QLabel* lblScenarioInfo = nullptr;
+    QLabel* lblGraphicPak = nullptr;
+    QComboBox* txtGraphicPack = nullptr;
+    QLabel* lblGraphicPakInfo = nullptr;
+
+    QGroupBox* frmResolution = nullptr;
+    std::array<QRadioButton*, 2> opResolution{};
+    QListWidget* lstResolution = nullptr;
+    QLineEdit* txtRes_Width = nullptr;
+    QLineEdit* txtRes_Height = nullptr;
+    QLabel* lblwidth_heigth = nullptr;
+    ucResolutionPreview* UserControl11 = nullptr;
+    QLabel* lblResolution_Warning = nullptr;
+
+    QGroupBox* frmScreenRefresh = nullptr;
+    QListWidget* lstRefresh = nullptr;
+
+    QGroupBox* frmOpenTarvoFolder = nullptr;
+    QPushButton* cmdOpenTarvoDir = nullptr;
+    QLabel* lblOpenTarvoFolder = nullptr;
+    QGroupBox* frmOpenLogfile = nullptr;
+    QPushButton* cmdLogfile = nullptr;
+    QLabel* lblOpenLogfileDesc = nullptr;
+
+    QLabel* lblVersion = nullptr;
+    QLineEdit* txtCommandLine = nullptr;
+    QPushButton* cmdStart = nullptr;
+    QLabel* Image1 = nullptr;
+
+    QMenu* mnuFile = nullptr;
+    QAction* mnuFile_Save = nullptr;
+    QAction* mnuFile_Quit = nullptr;
+    QMenu* mnuFile_Profiles = nullptr;
+    QAction* mnuProfile_New = nullptr;
+    QAction* mnuProfile_Edit = nullptr;
+    QAction* mnuProfil_Manager = nullptr;
+    std::vector<QAction*> mnuProfile_List;
+    QMenu* mnuEdit = nullptr;
+    QAction* mnuEditCopy_CmdLine = nullptr;
+    QMenu* mnuExtra = nullptr;
+    QAction* mnuExtra_CreateShortcut = nullptr;
+    QMenu* mnuOptions_Lang = nullptr;
+    std::vector<QAction*> mnuOptions_Lang_Item;
+    QAction* mnuExtra_Options = nullptr;
+    QAction* mnuExtra_Update = nullptr;
+    QAction* mnuExtra_BarAfterAccessoriesMenu = nullptr;
+    QMenu* mnuExtra_Accessories = nullptr;
+    QAction* mnuExtra_Accessories_LanguageEditor = nullptr;
+    QMenu* mnuHelp = nullptr;
+    QAction* mnuHelp_FAQ = nullptr;
+    QAction* mnuHelp_FAQ_EN = nullptr;
+    QAction* mnuHelp_Webpage = nullptr;
+    QAction* mnuFile_SendFeedback = nullptr;
+    QAction* mnuHelp_About = nullptr;
+
+    bool m_loading = false;  // LoadData is filling the controls
+};

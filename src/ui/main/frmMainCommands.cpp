@@ -1,0 +1,253 @@
+// The buttons, the menu commands and closing the window. Every command is an event entry point: it reports
+// its own failure under "frmMain." and its name, and the action ends there.
+#include <QAction>
+#include <QCloseEvent>
+#include <QPushButton>
+
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "app/UserInterface.h"
+#include "app/mMain.h"
+#include "app/mPath.h"
+#include "error/mError.h"
+#include "mainwindow/frmMainRules.h"
+#include "platform/Platform.h"
+#include "profiles/Profile.h"
+#include "translate/cTranslate.h"
+#include "ui/QtText.h"
+#include "ui/QtTranslation.h"
+#include "ui/controls/ucPath.h"
+#include "ui/dialogs/frmEditProfile.h"
+#include "ui/dialogs/frmInfo.h"
+#include "ui/dialogs/frmOptions.h"
+#include "ui/dialogs/frmProfiles.h"
+#include "ui/main/frmMain.h"
+
+namespace {
+
+int64_t Owner(const QWidget* window) {
+    return static_cast<int64_t>(window->winId());
+}
+
+std::string MainText(const char* key) {
+    return Translator().TranslateEx("MAIN_DIALOG", key);
+}
+
+}  // namespace
+
+void frmMain::cmdStart_Click() try {
+    RefreshProfileData();
+    App().ActiveProfile()->StartTarvolin(Owner(this));
+} catch (...) {
+    mError::ShowError("frmMain.cmdStart_Click");
+}
+
+// Asks for an editor first when none is set; opens the log file in it, unquoted, as it always has.
+void frmMain::OpenLogFile() {
+    Options& options = App().Options();
+    if (options.EditorPath().empty() &&
+        Ui().MsgBox(MainText("MSG_SelectTextEditor"), vbYesNo | vbQuestion) == vbYes)
+        options.SetEditorPath(mMain::AskForEditorPath(options.EditorPath()));
+    if (options.EditorPath().empty())
+        return;
+    const std::string log = frmMainRules::LogFilePath(App().ActiveProfile()->TarvolinPath());
+    if (mPath::FileExists(log))
+        Os().ShellExec(Owner(this), "open", options.EditorPath(), log, "", kSwShowNormal);
+    else
+        Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinLogfileNotFound"), vbInformation);
+}
+
+void frmMain::cmdLogfile_Click() try { OpenLogFile(); } catch (...) {
+    mError::ShowError("frmMain.cmdLogfile_Click");
+}
+
+void frmMain::cmdLogfile2_Click() try { OpenLogFile(); } catch (...) {
+    mError::ShowError("frmMain.cmdLogfile2_Click");
+}
+
+void frmMain::cmdOpenTarvoDir_Click() try {
+    const std::string folder = frmMainRules::GameFolder(App().ActiveProfile()->TarvolinPath());
+    if (mPath::FolderExists(folder))
+        Os().ShellExec(Owner(this), "open", folder, "", "", kSwShowNormal);
+    else
+        Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_PathNotFound", folder), vbOKOnly);
+} catch (...) {
+    mError::ShowError("frmMain.cmdOpenTarvoDir_Click");
+}
+
+// A new game path refills the lists from its folder.
+void frmMain::cmdSelectTarvoPath_Click() try {
+    const std::string chosen = mMain::AskForTarvoPath(QtText::FromQt(txtTarvolinPath->Text()));
+    if (chosen.empty())
+        return;
+    txtTarvolinPath->SetText(QtText::ToQt(chosen));
+    RefreshProfileData();
+    LoadData(*App().ActiveProfile());
+} catch (...) {
+    mError::ShowError("frmMain.cmdSelectTarvoPath_Click");
+}
+
+void frmMain::mnuFile_Save_Click() try { SaveData(); } catch (...) {
+    mError::ShowError("frmMain.mnuFile_Save_Click");
+}
+
+void frmMain::mnuFile_Quit_Click() try { close(); } catch (...) {
+    mError::ShowError("frmMain.mnuFile_Quit_Click");
+}
+
+void frmMain::mnuFile_SendFeedback_Click() try { App().ContactAuthor(Owner(this)); } catch (...) {
+    mError::ShowError("frmMain.mnuFile_SendFeedback_Click");
+}
+
+void frmMain::mnuProfile_New_Click() try {
+    RefreshProfileData();
+    if (Profile* created = App().Profiles().ShowAddNewDialog())
+        LoadData(*created);
+} catch (...) {
+    mError::ShowError("frmMain.mnuProfile_New_Click");
+}
+
+void frmMain::mnuProfile_Edit_Click() try {
+    frmEditProfile dialog(this);
+    dialog.InitDialog(2, *App().ActiveProfile());
+    dialog.ShowModal();
+} catch (...) {
+    mError::ShowError("frmMain.mnuProfile_Edit_Click");
+}
+
+// The edits of the profile shown so far stay with it before the other one is shown.
+void frmMain::mnuProfile_List_Click(int index) try {
+    RefreshProfileData();
+    const std::string name = QtText::FromQt(mnuProfile_List[index]->data().toString());
+    LoadData(App().Profiles().Item(name));
+} catch (...) {
+    mError::ShowError("frmMain.mnuProfile_List_Click");
+}
+
+void frmMain::mnuProfil_Manager_Click() try {
+    frmProfiles dialog(this);
+    dialog.InitDialog();
+    dialog.ShowModal();
+} catch (...) {
+    mError::ShowError("frmMain.mnuProfil_Manager_Click");
+}
+
+void frmMain::mnuEditCopy_CmdLine_Click() try {
+    Ui().SetClipboardText(
+        frmMainRules::CleanText(App().ActiveProfile()->TarvolinPath() + GetCmdLineParameters()));
+} catch (...) {
+    mError::ShowError("frmMain.mnuEditCopy_CmdLine_Click");
+}
+
+void frmMain::mnuExtra_Options_Click() try {
+    frmOptions dialog(this);
+    dialog.InitDialog();
+    dialog.ShowModal();
+} catch (...) {
+    mError::ShowError("frmMain.mnuExtra_Options_Click");
+}
+
+void frmMain::mnuExtra_Accessories_LanguageEditor_Click() try {
+    Os().ShellExec(Owner(this), "open", "LanguageEditor.exe", "", App().GetToolsDirectory(), kSwShowNormal);
+} catch (...) {
+    mError::ShowError("frmMain.mnuExtra_Accessories_LanguageEditor_Click");
+}
+
+// The language changes at once: every caption, both lists, the version line and Qt's own texts.
+void frmMain::mnuOptions_Lang_Item_Click(int index) try {
+    std::string language = QtText::FromQt(mnuOptions_Lang_Item[index]->data().toString());
+    App().Options().SetLanguage(language);
+    QtTranslation::Follow(language);
+    HighligthSelectedLanguage();
+    TranslateDialog();
+} catch (...) {
+    mError::ShowError("frmMain.mnuOptions_Lang_Item_Click");
+}
+
+void frmMain::mnuHelp_FAQ_Click() try {
+    App().ShowFAQ(Owner(this), App().Options().Language());
+} catch (...) {
+    mError::ShowError("frmMain.mnuHelp_FAQ_Click");
+}
+
+void frmMain::mnuHelp_FAQ_EN_Click() try { App().ShowFAQ(Owner(this), "EN"); } catch (...) {
+    mError::ShowError("frmMain.mnuHelp_FAQ_EN_Click");
+}
+
+void frmMain::mnuHelp_Webpage_Click() try { App().ShowPavonelWebpage(Owner(this)); } catch (...) {
+    mError::ShowError("frmMain.mnuHelp_Webpage_Click");
+}
+
+// Its report has always carried the name of the profile list's handler.
+void frmMain::mnuHelp_About_Click() try {
+    frmInfo dialog(this);
+    dialog.InitDialog();
+    dialog.ShowModal();
+} catch (...) {
+    mError::ShowError("frmMain.mnuProfil_Manager_Click");
+}
+
+// True when the window may close: after saving, after No, never after Cancel. A failure here is reported
+// and then the user decides whether to quit anyway.
+bool frmMain::Form_QueryUnload() {
+    try {
+        RefreshProfileData();
+        if (!App().DataChanged())
+            return true;
+        const int answer = Ui().MsgBox(MainText("MSG_SaveChangesQuestion"), vbYesNoCancel | vbQuestion);
+        if (answer == vbYes)
+            SaveData();
+        return answer != vbCancel;
+    } catch (...) {
+        mError::ShowError("frmMain.Form_QueryUnload");
+    }
+    try {
+        return Ui().MsgBox(MainText("MSG_QuitPavonelQuestion"), vbYesNo | vbQuestion) == vbYes;
+    } catch (...) {
+        return true;  // no text to ask with: the window must still be able to close
+    }
+}
+
+void frmMain::Form_Unload() try {
+    App().SaveAppSettings();
+    App().Profiles().SaveWhichProfileIsActive();
+    mMain::ClosePublicObjects();
+} catch (...) {
+    mError::ShowError("frmMain.Form_Unload");
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (!Form_QueryUnload()) {
+        event->ignore();
+        return;
+    }
+    Form_Unload();
+    event->accept();
+}
+
+void frmMain::ConnectCommands() {
+    const std::pair<QPushButton*, void (frmMain::*)()> buttons[] = {
+        {cmdStart, &frmMain::cmdStart_Click},
+        {cmdLogfile, &frmMain::cmdLogfile_Click},
+        {cmdLogfile2, &frmMain::cmdLogfile2_Click},
+        {cmdOpenTarvoDir, &frmMain::cmdOpenTarvoDir_Click},
+        {cmdSelectTarvoPath, &frmMain::cmdSelectTarvoPath_Click}};
+    for (const auto& [button, handler] : buttons)
+        connect(button, &QPushButton::clicked, this, handler);
+    const std::pair<QAction*, void (frmMain::*)()> actions[] = {
+        {mnuFile_Save, &frmMain::mnuFile_Save_Click},
+        {mnuFile_Quit, &frmMain::mnuFile_Quit_Click},
+        {mnuFile_SendFeedback, &frmMain::mnuFile_SendFeedback_Click},
+        {mnuProfile_New, &frmMain::mnuProfile_New_Click},
+        {mnuProfile_Edit, &frmMain::mnuProfile_Edit_Click},
+        {mnuProfil_Manager, &frmMain::mnuProfil_Manager_Click},
+        {mnuEditCopy_CmdLine, &frmMain::mnuEditCopy_CmdLine_Click},
+        {mnuExtra_Options, &frmMain::mnuExtra_Options_Click},
+        {mnuExtra_Accessories_LanguageEditor, &frmMain::mnuExtra_Accessories_LanguageEditor_Click},
+        {mnuHelp_FAQ, &frmMain::mnuHelp_FAQ_Click},
+        {mnuHelp_FAQ_EN, &frmMain::mnuHelp_FAQ_EN_Click},
+        {mnuHelp_Webpage, &frmMain::mnuHelp_Webpage_Click},
+        {mnuHelp_About, &frmMain::mnuHelp_About_Click}};
+    for (const auto& [action, handler] : actions)
+        connect(action, &QAction::triggered, this, handler);
+}

@@ -1,0 +1,214 @@
+// The whole program started in-process through Main, on a program folder of its own with the real language
+// files, a real settings file and a game folder; the user's part is played by clicks, keys and answers.
+#include "ui/main/frmMain.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QTest>
+#include <deque>
+#include <filesystem>
+
+#include "profiles/Profile.h"
+#include "support/Portable.h"
+#include "ui/Main.h"
+#include "ui/controls/ucTab.h"
+#include "ui/dialogs/UiFixture.h"
+
+namespace {
+
+class frmMainTest : public UiFixture {
+protected:
+    frmMainTest() {
+        std::filesystem::create_directories(dir.Path() / "game" / "Scenarios" / "demo");
+        game = dir.Write("game/tarvolin.exe", "MZ");
+        dir.Write("game/pak128.pak", "");
+        WriteIni("[PROFILES]\r\nLASTACTIVEPROFILE=profile_A\r\n[profile_A]\r\nTARVOPATH=" + game +
+                 "\r\nFREEPLAY=0\r\n[profile_B]\r\nTARVOPATH=" + game + "\r\nREFRESH=3\r\n");
+        answer = [this](QDialog& shown) { Answer(shown); };
+        main = Main();
+    }
+    ~frmMainTest() override { delete main; }
+
+    // Message boxes are answered from `buttons` (their default once it is empty); a report is kept; any other
+    // window is left to `window`.
+    void Answer(QDialog& shown) {
+        if (auto* box = qobject_cast<QMessageBox*>(&shown)) {
+            boxes << box->text();
+            if (!buttons.empty())
+                box->button(buttons.front())->click();
+            if (!buttons.empty())
+                buttons.pop_front();
+        } else if (shown.objectName() == "frmError") {
+            reports << Find<QPlainTextEdit>(shown, "txtErrorNote")->toPlainText();
+        } else if (window) {
+            window(shown);
+        }
+    }
+
+    template <class T = QWidget>
+    T* Control(const char* name) const {
+        return Find<T>(*main, name);
+    }
+    QAction* Menu(const char* name) const { return main->findChild<QAction*>(name); }
+    Profile& Active() const { return *g_cApp->ActiveProfile(); }
+    void Type(const char* field, const QString& text) {
+        auto* edit = Control<QLineEdit>(field);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+    }
+
+    std::string game;
+    frmMain* main = nullptr;
+    std::deque<QMessageBox::StandardButton> buttons;
+    QStringList boxes;
+    QStringList reports;
+    std::function<void(QDialog&)> window;
+};
+
+TEST_F(frmMainTest, StartsWithTheRememberedProfileAndSwitchesPages) {
+    ASSERT_NE(main, nullptr);
+    EXPECT_TRUE(main->isVisible());
+    EXPECT_EQ(platform.mutexes, std::vector<std::string>{"Pavonel_MTX"});
+    EXPECT_EQ(Active().ProfileName(), "profile_A");
+    EXPECT_EQ(Control<QComboBox>("txtScenario")->itemText(0), QtText::ToQt(Native("scenarios/demo")));
+    EXPECT_EQ(Control<QComboBox>("txtGraphicPack")->itemText(0), "pak128.pak");
+    EXPECT_EQ(Control<QLabel>("lblVersion")->text(), "Pavonel 0.1.0 with Tarvolin");
+    EXPECT_TRUE(Menu("mnuProfile_List_0")->isChecked() && !Menu("mnuProfile_List_1")->isChecked());
+    QTest::mouseClick(Control("ucTab1_2"), Qt::LeftButton);
+    for (int page = 1; page <= frmMain::kTabCount; ++page)
+        EXPECT_EQ(Control(QStringLiteral("picPage_%1").arg(page).toLatin1())->isVisible(), page == 3) << page;
+    EXPECT_TRUE(Control<ucTab>("ucTab1_2")->IsActive());
+    EXPECT_FALSE(Control<ucTab>("ucTab1_0")->IsActive());
+}
+
+// Only digits get into a resolution field, and typing there chooses the user-defined mode; leaving it
+// raises a too small value, the width taking the focus back and the height not.
+TEST_F(frmMainTest, ResolutionFieldsTakeDigitsAndCorrectSmallValues) {
+    main->ucTab1_Click(2);
+    Type("txtRes_Width", "a");
+    EXPECT_EQ(Control<QLineEdit>("txtRes_Width")->text(), "640");
+    Type("txtRes_Width", "6a00");
+    EXPECT_TRUE(Control<QRadioButton>("opResolution_1")->isChecked());
+    EXPECT_EQ(Control<QLineEdit>("txtRes_Width")->text(), "600");
+    Type("txtRes_Height", "300");
+    main->ucTab1_Click(0);
+    QTest::keyClick(Control("txtRes_Height"), Qt::Key_Return);
+    EXPECT_EQ(Control<QLineEdit>("txtRes_Height")->text(), "400");
+    EXPECT_EQ(Control<QLineEdit>("txtRes_Width")->text(), "640");
+    EXPECT_TRUE(Control("picPage_3")->isVisible());
+    EXPECT_EQ(boxes.size(), 2);
+    EXPECT_EQ(main->focusWidget(), Control("txtRes_Width"));
+    EXPECT_EQ(Control<QLineEdit>("txtCommandLine")->text(), "-log -screensize 640x400 -refresh 1");
+}
+
+// A failed check ends the start with a report and writes nothing into the profile; so does a command line
+// that the window composes differently from the profile.
+TEST_F(frmMainTest, StartRefusesWhatTheChecksRefuse) {
+    Control<QComboBox>("txtScenario")->setEditText("scenarios/gone");
+    QTest::mouseClick(Control("cmdStart"), Qt::LeftButton);
+    ASSERT_EQ(reports.size(), 1);
+    EXPECT_TRUE(reports[0].contains("Err.-Number: -2147201498 (20006)")) << reports[0].toStdString();
+    EXPECT_TRUE(reports[0].contains("frmMain.cmdStart_Click\nfrmMain.RefreshProfileData\nfrmMain.CheckData"));
+    EXPECT_EQ(Active().ScenarioPath(), "");
+    Control<QComboBox>("txtScenario")->setEditText("");
+    Control<QRadioButton>("opResolution_1")->setChecked(true);
+    Control<QLineEdit>("txtRes_Width")->setText("0800");
+    QTest::mouseClick(Control("cmdStart"), Qt::LeftButton);
+    ASSERT_EQ(reports.size(), 2);
+    EXPECT_TRUE(reports[1].contains("Commandline parameters should be: -log -screensize 0800x480"))
+        << reports[1].toStdString();
+    EXPECT_TRUE(platform.calls.empty());
+    Control<QLineEdit>("txtRes_Width")->setText("800");
+    window = [](QDialog& confirmation) { Find(confirmation, "cmdOk")->click(); };
+    QTest::mouseClick(Control("cmdStart"), Qt::LeftButton);
+    ASSERT_EQ(platform.calls.size(), 1u);
+    EXPECT_EQ(platform.calls[0].file, game);
+    EXPECT_EQ(platform.calls[0].parameters, "-log -screensize 800x480 -refresh 1");
+    EXPECT_EQ(platform.calls[0].directory, dir.File("game/"));
+}
+
+TEST_F(frmMainTest, ProfileMenuSwitchesAndKeepsTheEdits) {
+    Control<QCheckBox>("ckFreeplay")->setChecked(true);
+    Menu("mnuProfile_List_1")->trigger();
+    EXPECT_EQ(Active().ProfileName(), "profile_B");
+    EXPECT_TRUE(g_cApp->Profiles().Item("profile_A").Freeplay());
+    EXPECT_TRUE(Menu("mnuProfile_List_1")->isChecked() && !Menu("mnuProfile_List_0")->isChecked());
+    EXPECT_EQ(Control<QListWidget>("lstRefresh")->currentRow(), 2);
+
+    // The new profile has no game yet: the chooser that offers one is cancelled.
+    window = [](QDialog& shown) {
+        if (shown.objectName() != "frmEditProfile")
+            return;
+        Find<QLineEdit>(shown, "txtName")->setText("Race");
+        Find<QLineEdit>(shown, "txtDescription")->setText("fast");
+        Find(shown, "cmdOk")->click();
+    };
+    Menu("mnuProfile_New")->trigger();
+    EXPECT_EQ(Active().ProfileName(), "profile_Race");
+    EXPECT_EQ(Menu("mnuProfile_List_2")->text(), "Race");
+}
+
+TEST_F(frmMainTest, LanguageSwitchRetranslatesAtOnce) {
+    QAction* german = nullptr;
+    for (QAction* item : main->findChildren<QAction*>()) {
+        if (item->objectName().startsWith("mnuOptions_Lang_Item") && item->data().toString() == "DE")
+            german = item;
+    }
+    ASSERT_NE(german, nullptr);
+    german->trigger();
+    EXPECT_TRUE(german->isChecked());
+    EXPECT_EQ(Control<QPushButton>("cmdStart")->text().remove('&'), "Tarvolin starten");
+    EXPECT_EQ(Control<ucTab>("ucTab1_0")->Caption(), "Spiel");
+    EXPECT_EQ(Control<QListWidget>("lstResolution")->item(4)->text(), "Im Fenster");
+    EXPECT_EQ(Control<QLabel>("lblVersion")->text(), "Pavonel 0.1.0 mit Tarvolin");
+    EXPECT_EQ(g_cApp->Options().Language(), "DE");
+}
+
+TEST_F(frmMainTest, CommandsReachTheClipboardAndTheShell) {
+    Menu("mnuEditCopy_CmdLine")->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QtText::ToQt(game) + "-log -res 1 -refresh 1");
+    QTest::mouseClick(Control("cmdOpenTarvoDir"), Qt::LeftButton);
+    ASSERT_EQ(platform.calls.size(), 1u);
+    EXPECT_EQ(platform.calls[0].file, dir.File("game/"));
+    g_cApp->Options().SetEditorPath("/usr/bin/editor");
+    QTest::mouseClick(Control("cmdLogfile"), Qt::LeftButton);
+    EXPECT_EQ(boxes, QStringList{QtText::ToQtLines(
+                         Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinLogfileNotFound"))});
+    dir.Write("game/tarvo.log", "log");
+    QTest::mouseClick(Control("cmdLogfile2"), Qt::LeftButton);
+    ASSERT_EQ(platform.calls.size(), 2u);
+    EXPECT_EQ(platform.calls[1].file + " " + platform.calls[1].parameters,
+              "/usr/bin/editor " + dir.File("game/tarvo.log"));
+}
+
+// Cancel keeps the window and the edits; No closes without saving the profiles; Yes saves them.
+TEST_F(frmMainTest, ClosingAsksWhetherToSave) {
+    Control<QCheckBox>("ckFreeplay")->setChecked(true);
+    buttons = {QMessageBox::Cancel};
+    EXPECT_FALSE(main->close());
+    EXPECT_TRUE(Control<QCheckBox>("ckFreeplay")->isChecked());
+    window = [](QDialog& shown) { Find(shown, "Command1")->click(); };
+    buttons = {QMessageBox::Yes};
+    EXPECT_TRUE(main->close());
+    main = nullptr;  // it deletes itself
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(g_cApp, nullptr);
+    const std::string saved = ReadIni();
+    EXPECT_NE(saved.find("[profile_A]\r\nTARVOPATH=" + game + "\r\nFREEPLAY=1\r\n"), std::string::npos)
+        << saved;
+    EXPECT_NE(saved.find("FILEVERSION=1.1"), std::string::npos);
+}
+
+}  // namespace
