@@ -9,9 +9,42 @@
 namespace mPath {
 namespace {
 
-std::filesystem::file_status StatusOf(const std::string& path) {
+namespace fs = std::filesystem;
+
+// `path` with each part that is not there as spelt replaced by the entry of its folder that matches it in
+// any case; `path` itself when some part is not there in any case.
+fs::path InAnyCase(const fs::path& path) {
+    fs::path resolved;
+    for (const fs::path& part : path) {
+        std::error_code error;
+        if (resolved.empty() || fs::exists(resolved / part, error)) {
+            resolved /= part;
+            continue;
+        }
+        fs::path found;
+        for (fs::directory_iterator entry(resolved, error); !error && entry != fs::directory_iterator();
+             entry.increment(error)) {
+            if (mString::EqualsNoCase(platform::TextOf(entry->path().filename()), platform::TextOf(part))) {
+                found = entry->path();
+                break;
+            }
+        }
+        if (found.empty())
+            return path;
+        resolved = found;
+    }
+    return resolved;
+}
+
+// Windows finds a file or folder whatever the case of its name; so does the program where the file system
+// tells case apart, so that a game folder's "Scenarios" is found as "scenarios" as the game itself finds it.
+fs::file_status StatusOf(const std::string& path) {
     std::error_code ignored;
-    return std::filesystem::status(platform::PathOf(path), ignored);
+    const fs::path native = platform::PathOf(path);
+    const fs::file_status status = fs::status(native, ignored);
+    if (fs::exists(status) || kNativePathFlavour == PathFlavour::Windows)
+        return status;
+    return fs::status(InAnyCase(native), ignored);
 }
 
 }  // namespace

@@ -16,6 +16,8 @@ namespace mPath {
 
 char Separator(PathFlavour flavour = kNativePathFlavour);
 
+// The existence tests find a name in any case, as on Windows (on Linux a name not there as spelt is looked
+// for among its folder's entries).
 // True for an existing entry that is not a folder (hidden entries included); false for an empty path.
 bool FileExists(const std::string& path);
 

@@ -62,4 +62,15 @@ TEST(PathExistence, FilesAndFoldersAreTellApart) {
     EXPECT_FALSE(mPath::FolderExists(""));
 }
 
+// A name is found in any case, as on Windows: the game folder's "Scenarios" is its "scenarios" too.
+TEST(PathExistence, NamesAreFoundInAnyCase) {
+    TempDir dir;
+    std::filesystem::create_directories(dir.Path() / "Game" / "Scenarios" / "Demo");
+    dir.Write("Game/Tarvolin.EXE", "MZ");
+    EXPECT_TRUE(mPath::FolderExists(dir.File("game/scenarios/demo")));
+    EXPECT_TRUE(mPath::FileExists(dir.File("GAME/tarvolin.exe")));
+    EXPECT_FALSE(mPath::FileExists(dir.File("game/scenarios")));
+    EXPECT_FALSE(mPath::FolderExists(dir.File("game/scenarios/other")));
+}
+
 }  // namespace

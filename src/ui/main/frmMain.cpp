@@ -57,7 +57,7 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent) {
     layout->addWidget(CreateTabbedPages(), 1);
     layout->addWidget(CreateStartRow());
     setCentralWidget(central);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 88);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 110);
     CreateMenus();
     ConnectBinding();
     ConnectCommands();
