@@ -203,6 +203,16 @@ void Profiles::SaveWhichProfileIsActive() try {
     mError::PassOn("Profiles.SaveWhichProfileIsActive");
 }
 
+std::string Profiles::ChangedProfileNames() const {
+    std::string names;
+    for (const Entry& entry : m_items) {
+        if (!entry.profile->DataChanged())
+            continue;
+        names += (names.empty() ? "" : ";") + entry.profile->ProfileName();
+    }
+    return names;
+}
+
 bool Profiles::DataChanged() const {
     for (const Entry& entry : m_items) {
         if (entry.profile->DataChanged())

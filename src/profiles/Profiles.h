@@ -54,6 +54,9 @@ public:
 
     bool DataChanged() const;
 
+    // The names of the changed profiles joined by ";", as the save window hands them to SaveData.
+    std::string ChangedProfileNames() const;
+
     std::string ReadFromIni_ActiveProfileName() const;
 
     void CreateStandardProfile();

@@ -1,6 +1,8 @@
 #include "ui/Main.h"
 
 #include <QApplication>
+#include <QPointer>
+#include <QSocketNotifier>
 #include <memory>
 
 #include "app/Application.h"
@@ -8,6 +10,7 @@
 #include "app/mMain.h"
 #include "app/mMutex.h"
 #include "error/mError.h"
+#include "platform/Termination.h"
 #include "translate/cTranslate.h"
 #include "ui/QtTranslation.h"
 #include "ui/QtUserInterface.h"
@@ -38,12 +41,32 @@ frmMain* Main() {
     return nullptr;
 }
 
+namespace {
+
+// A request from outside to end the program ends it without questions, keeping every change.
+void CloseOnRequest(QApplication& application, QPointer<frmMain>& window, int requests) {
+    auto* notifier = new QSocketNotifier(requests, QSocketNotifier::Read, &application);
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, [&window] {
+        platform::TakeTerminationRequests();
+        if (window)
+            window->EndOnRequest();
+        else
+            QApplication::quit();
+    });
+}
+
+}  // namespace
+
 int RunProgram(int argc, char** argv) {
+    const int requests = platform::CatchTerminationRequests();
     QApplication application(argc, argv);
     application.setApplicationName(QStringLiteral("Pavonel"));
     QtUserInterface ui;
     InstallUserInterface(&ui);
-    const int status = Main() != nullptr ? application.exec() : 0;
+    QPointer<frmMain> window = Main();
+    if (window && requests >= 0)
+        CloseOnRequest(application, window, requests);
+    const int status = window ? application.exec() : 0;
     mMain::ClosePublicObjects();
     InstallUserInterface(nullptr);
     return status;

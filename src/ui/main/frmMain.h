@@ -63,6 +63,11 @@ public:
     // Activates tab `index` and shows page index + 1.
     void ucTab1_Click(int index);
 
+    // Ends the program when it is asked to from outside (the session ends, the process is told to end):
+    // nobody can answer a question then, so it keeps everything, saving every changed profile and its
+    // settings, and closes the window.
+    void EndOnRequest();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -205,4 +210,5 @@ private:
     QAction* mnuHelp_About = nullptr;
 
     bool m_loading = false;  // LoadData is filling the controls
+    bool m_ending = false;   // EndOnRequest has saved and unloaded; the window only closes
 };

@@ -216,7 +216,27 @@ void frmMain::Form_Unload() try {
     mError::ShowError("frmMain.Form_Unload");
 }
 
+void frmMain::EndOnRequest() {
+    try {
+        RefreshProfileData();
+    } catch (...) {
+        // Edits that do not pass the checks cannot be kept; everything already in the profiles is.
+    }
+    try {
+        App().SaveDataEx(App().Profiles().ChangedProfileNames());
+    } catch (...) {
+        mError::ShowError("frmMain.EndOnRequest");
+    }
+    Form_Unload();
+    m_ending = true;
+    close();
+}
+
 void frmMain::closeEvent(QCloseEvent* event) {
+    if (m_ending) {
+        event->accept();
+        return;
+    }
     if (!Form_QueryUnload()) {
         event->ignore();
         return;

@@ -19,9 +19,12 @@
 #include <deque>
 #include <filesystem>
 
+#include "platform/NativePath.h"
 #include "profiles/Profile.h"
 #include "support/Portable.h"
+#include "support/StandInGame.h"
 #include "ui/Main.h"
+#include "ui/controls/ucPath.h"
 #include "ui/controls/ucTab.h"
 #include "ui/dialogs/UiFixture.h"
 
@@ -137,6 +140,23 @@ TEST_F(frmMainTest, StartRefusesWhatTheChecksRefuse) {
     EXPECT_EQ(platform.calls[0].file, game);
     EXPECT_EQ(platform.calls[0].parameters, "-log -screensize 800x480 -refresh 1");
     EXPECT_EQ(platform.calls[0].directory, dir.File("game/"));
+}
+
+// Start gives the real stand-in game the window's command line in the game's own folder.
+TEST_F(frmMainTest, StartLaunchesTheGame) {
+    InstallPlatform(nullptr);
+    const StandInGame stand(dir.Path() / "Spiele" / "Tarvolin Größe");
+    g_cApp->Options().SetShowStartTarvolinDialog(false);
+    Control<ucPath>("txtTarvolinPath")->SetText(QtText::ToQt(stand.Path()));
+    Control<QCheckBox>("ckFreeplay")->setChecked(true);
+    QTest::mouseClick(Control("cmdStart"), Qt::LeftButton);
+    const auto record = stand.WaitForRecord();
+    InstallPlatform(&platform);
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->arguments,
+              (std::vector<std::string>{"-log", "-res", "1", "-freeplay", "-refresh", "1"}));
+    EXPECT_EQ(record->directory, platform::TextOf(dir.Path() / "Spiele" / "Tarvolin Größe"));
+    EXPECT_EQ(Active().TarvolinPath(), stand.Path());
 }
 
 TEST_F(frmMainTest, ProfileMenuSwitchesAndKeepsTheEdits) {

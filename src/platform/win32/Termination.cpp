@@ -1,0 +1,11 @@
+#include "platform/Termination.h"
+
+namespace platform {
+
+int CatchTerminationRequests() {
+    return -1;
+}
+
+void TakeTerminationRequests() {}
+
+}  // namespace platform
