@@ -68,6 +68,10 @@ BenchFolder::~BenchFolder() {
     fs::remove_all(m_path);
 }
 
+std::unique_ptr<Platform> BenchFolder::PlatformAt(const std::string& folder) {
+    return std::make_unique<BenchPlatform>(folder);
+}
+
 std::string BenchFolder::ProfileName(int i) {
     return "profile_Bench" + std::to_string(i);
 }

@@ -17,6 +17,9 @@ public:
 
     static std::string ProfileName(int i);
 
+    // A platform whose program folder is `folder` and whose shell starts nothing.
+    static std::unique_ptr<Platform> PlatformAt(const std::string& folder);
+
     // Rewrites the settings file as it was at the start.
     void WriteSettings() const;
 
