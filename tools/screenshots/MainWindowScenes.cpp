@@ -2,7 +2,6 @@
 // and the about box.
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include "Scenes.h"
 #include "ScreenshotSession.h"
@@ -16,24 +15,31 @@
 namespace Scenes {
 namespace {
 
-// A game folder as a player has it: the program, two scenarios, two graphic paks.
-QString MakeGameFolder(const QTemporaryDir& folder) {
-    const QDir game(folder.path());
-    for (const char* scenario : {"Scenarios/Mountain Pass", "Scenarios/River Delta"})
-        game.mkpath(QString::fromLatin1(scenario));
-    for (const char* file : {"tarvolin.exe", "pak64.pak", "pak128.pak"}) {
-        QFile created(game.filePath(QString::fromLatin1(file)));
-        created.open(QIODevice::WriteOnly);
+// A game folder as a player has it: the program, two scenarios, two graphic paks. It is always the same
+// folder, so that the pictures change only when the windows do; it goes when the pictures are taken.
+class GameFolder {
+public:
+    GameFolder() : m_folder(QDir::temp().filePath(QStringLiteral("Tarvolin"))) {
+        for (const char* scenario : {"Scenarios/Mountain Pass", "Scenarios/River Delta"})
+            m_folder.mkpath(QString::fromLatin1(scenario));
+        for (const char* file : {"tarvolin.exe", "pak64.pak", "pak128.pak"}) {
+            QFile created(m_folder.filePath(QString::fromLatin1(file)));
+            created.open(QIODevice::WriteOnly);
+        }
     }
-    return game.filePath(QStringLiteral("tarvolin.exe"));
-}
+    ~GameFolder() { m_folder.removeRecursively(); }
+    QString Game() const { return m_folder.filePath(QStringLiteral("tarvolin.exe")); }
+
+private:
+    QDir m_folder;
+};
 
 }  // namespace
 
 void RenderMainWindow(ScreenshotSession& session) {
-    const QTemporaryDir folder;
+    const GameFolder folder;
     Profile& profile = App().Profiles().Item("profile_Race");
-    profile.SetTarvolinPath(QtText::FromQt(MakeGameFolder(folder)));
+    profile.SetTarvolinPath(QtText::FromQt(folder.Game()));
     profile.SetScenarioPath("scenarios/Mountain Pass");
     profile.SetGraphicPakPath("pak128.pak");
     frmMain window;

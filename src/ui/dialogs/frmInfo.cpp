@@ -9,6 +9,7 @@
 #include "app/Application.h"
 #include "error/mError.h"
 #include "ui/QtText.h"
+#include "ui/controls/TabRow.h"
 #include "ui/controls/ucTab.h"
 #include "ui/controls/ucTabArea.h"
 
@@ -124,23 +125,12 @@ void frmInfo::ucTab1_Click(int index) try {
 
 // The tabs stand on the area's upper edge; every page fills the area inside its frame.
 void frmInfo::PlacePages() {
-    int x = 0;
-    int tabHeight = 0;
-    for (ucTab* tab : ucTab1) {
-        tab->move(x, 0);
-        x += tab->width();
-        tabHeight = std::max(tabHeight, tab->height());
-    }
     QSize page(fontMetrics().averageCharWidth() * 48, fontMetrics().height() * 6);
     for (QWidget* each : picPage)
         page = page.expandedTo(each->sizeHint());
-    tabHost->setMinimumSize(std::max(x, page.width() + 2 * kPageMargin),
-                            tabHeight + page.height() + 2 * kPageMargin);
-    Shape1->setGeometry(0, tabHeight - 1, tabHost->width(), tabHost->height() - tabHeight + 1);
+    TabRow::Place(ucTab1, *Shape1, page, QSize(2 * kPageMargin, 2 * kPageMargin));
     for (QWidget* each : picPage)
         each->setGeometry(Shape1->rect().adjusted(kPageMargin, kPageMargin, -kPageMargin, -kPageMargin));
-    for (ucTab* tab : ucTab1)
-        tab->raise();
 }
 
 void frmInfo::resizeEvent(QResizeEvent* event) {

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "error/mError.h"
+#include "ui/controls/TabRow.h"
 #include "ui/controls/ucPath.h"
 #include "ui/controls/ucTab.h"
 #include "ui/controls/ucTabArea.h"
@@ -231,21 +232,10 @@ QWidget* frmMain::CreateStartRow() {
 
 // The tab area takes the room the biggest page needs, plus its margins; the tabs sit on its upper edge.
 void frmMain::PlaceTabs() {
-    int x = 0;
-    int tabHeight = 0;
-    for (ucTab* tab : ucTab1) {
-        tab->move(x, 0);
-        x += tab->width();
-        tabHeight = std::max(tabHeight, tab->height());
-    }
-    Shape1->setGeometry(0, tabHeight - 1, tabHost->width(), tabHost->height() - tabHeight + 1);
-    for (ucTab* tab : ucTab1)
-        tab->raise();
     QSize page;
     for (int i = 1; i <= kTabCount; ++i)
         page = page.expandedTo(picPage[i]->sizeHint());
-    tabHost->setMinimumSize(std::max(x, page.width() + kPageWidthLoss),
-                            tabHeight - 1 + page.height() + kPageHeightLoss);
+    TabRow::Place(ucTab1, *Shape1, page, QSize(kPageWidthLoss, kPageHeightLoss));
 }
 
 void frmMain::ucTab1_Click(int index) try {
