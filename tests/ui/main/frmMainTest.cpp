@@ -231,4 +231,21 @@ TEST_F(frmMainTest, ClosingAsksWhetherToSave) {
     EXPECT_NE(saved.find("FILEVERSION=1.1"), std::string::npos);
 }
 
+// A failure while closing is reported first; then the user decides whether to quit anyway.
+TEST_F(frmMainTest, AFailureWhileClosingLeavesTheChoiceToTheUser) {
+    Control<QComboBox>("txtScenario")->setEditText("scenarios/gone");
+    buttons = {QMessageBox::No};
+    EXPECT_FALSE(main->close());
+    ASSERT_EQ(reports.size(), 1);
+    EXPECT_TRUE(reports[0].contains("Err.-Source: \nfrmMain.Form_QueryUnload\nfrmMain.RefreshProfileData"));
+    EXPECT_EQ(
+        boxes,
+        QStringList{QtText::ToQtLines(Translator().TranslateEx("MAIN_DIALOG", "MSG_QuitPavonelQuestion"))});
+    buttons = {QMessageBox::Yes};
+    EXPECT_TRUE(main->close());
+    main = nullptr;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(g_cApp, nullptr);
+}
+
 }  // namespace
