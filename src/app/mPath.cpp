@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 // `path` with each part that is not there as spelt replaced by the entry of its folder that matches it in
 // any case; `path` itself when some part is not there in any case.
-fs::path InAnyCase(const fs::path& path) {
+fs::path Resolved(const fs::path& path) {
     fs::path resolved;
     for (const fs::path& part : path) {
         std::error_code error;
@@ -44,7 +44,7 @@ fs::file_status StatusOf(const std::string& path) {
     const fs::file_status status = fs::status(native, ignored);
     if (fs::exists(status) || kNativePathFlavour == PathFlavour::Windows)
         return status;
-    return fs::status(InAnyCase(native), ignored);
+    return fs::status(Resolved(native), ignored);
 }
 
 }  // namespace
@@ -60,6 +60,14 @@ bool FileExists(const std::string& path) {
         return false;
     std::filesystem::file_status status = StatusOf(path);
     return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+std::string InAnyCase(const std::string& path) {
+    std::error_code ignored;
+    const fs::path native = platform::PathOf(path);
+    if (path.empty() || fs::exists(native, ignored) || kNativePathFlavour == PathFlavour::Windows)
+        return path;
+    return platform::TextOf(Resolved(native));
 }
 
 bool FolderExists(const std::string& path) {

@@ -24,6 +24,9 @@ bool FileExists(const std::string& path);
 // True for an existing folder; false for an empty path.
 bool FolderExists(const std::string& path);
 
+// `path` as the file system spells it when it is there in another case only; else `path` itself.
+std::string InAnyCase(const std::string& path);
+
 // Adds (add) or removes one trailing separator. A path that is blank after trimming comes back unchanged;
 // the path itself is never trimmed.
 std::string AddOrRemoveBackslash(const std::string& path, bool add, PathFlavour flavour = kNativePathFlavour);

@@ -14,12 +14,12 @@
 namespace frmMainLists {
 namespace {
 
-// The names in `folder` whose entry is a folder (`folders`) or a file (`!folders`), in listing order; none
-// when the folder cannot be listed.
+// The names in `folder` (found in any case) whose entry is a folder (`folders`) or a file (`!folders`), in
+// listing order; none when the folder cannot be listed.
 std::vector<std::string> NamesIn(const std::string& folder, bool folders) {
     std::vector<std::string> names;
     std::error_code error;
-    std::filesystem::directory_iterator entry(platform::PathOf(folder), error);
+    std::filesystem::directory_iterator entry(platform::PathOf(mPath::InAnyCase(folder)), error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::error_code ignored;
         if (entry->is_directory(ignored) == folders)

@@ -1,8 +1,10 @@
 #include "ui/Main.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QPointer>
 #include <QSocketNotifier>
+#include <QTimer>
 #include <memory>
 
 #include "app/Application.h"
@@ -22,11 +24,13 @@ frmMain* Main() {
         mMutex::CreateMutex();
         g_cApp = std::make_unique<Application>();
         g_cTranslate = std::make_unique<cTranslate>();
+        // Qt's own texts follow the chosen language from the first window on, the profile chooser included.
+        g_cApp->Options().LoadData();
+        QtTranslation::Follow(g_cApp->Options().Language());
         if (!g_cApp->LoadData()) {
             mMain::ClosePublicObjects();
             return nullptr;
         }
-        QtTranslation::Follow(g_cApp->Options().Language());
         window = new frmMain;
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->InitDialog();
@@ -43,15 +47,29 @@ frmMain* Main() {
 
 namespace {
 
+// Ends the program on a request from outside. A window waiting for an answer is dismissed first, as by
+// Escape; the next one it leads to is dismissed in turn, until the main window itself can end.
+void EndOnRequest(QPointer<frmMain>& window) {
+    if (QWidget* modal = QApplication::activeModalWidget()) {
+        if (auto* dialog = qobject_cast<QDialog*>(modal))
+            dialog->reject();
+        else
+            modal->close();
+        QTimer::singleShot(0, qApp, [&window] { EndOnRequest(window); });
+        return;
+    }
+    if (window)
+        window->EndOnRequest();
+    else
+        QApplication::quit();
+}
+
 // A request from outside to end the program ends it without questions, keeping every change.
 void CloseOnRequest(QApplication& application, QPointer<frmMain>& window, int requests) {
     auto* notifier = new QSocketNotifier(requests, QSocketNotifier::Read, &application);
     QObject::connect(notifier, &QSocketNotifier::activated, &application, [&window] {
         platform::TakeTerminationRequests();
-        if (window)
-            window->EndOnRequest();
-        else
-            QApplication::quit();
+        EndOnRequest(window);
     });
 }
 

@@ -34,6 +34,10 @@ TEST_F(frmMainListsTest, GameFolderListsHoldScenarioFoldersAndPakFiles) {
               (std::vector<std::string>{Native("scenarios/Big Map"), Native("scenarios/demo")}));
     EXPECT_EQ(Sorted(frmMainLists::DatenPakEntries(game)), (std::vector<std::string>{"B.PAK", "a.pak"}));
     EXPECT_TRUE(frmMainLists::ScenarioEntries(dir.File("nowhere/tarvolin.exe")).empty());
+    // The scenario folder is found in any case, as the checks find its entries.
+    std::filesystem::create_directories(dir.Path() / "other" / "scenarios" / "demo");
+    EXPECT_EQ(frmMainLists::ScenarioEntries(dir.File("other/tarvolin.exe")),
+              std::vector<std::string>{Native("scenarios/demo")});
     EXPECT_TRUE(frmMainLists::DatenPakEntries("").empty());
 }
 

@@ -66,7 +66,7 @@ TEST(ProgramSmokeTest, StartsAndEndsNormallyWhenToldFromOutside) {
     EXPECT_EQ(WaitForExit(pid, 30s), 0);
     const std::string settings = program.Read("Pavonel.ini");
     EXPECT_NE(settings.find("[APPLICATION]\r\nFILEVERSION=1.1\r\n"), std::string::npos) << settings;
-    EXPECT_NE(settings.find("LASTACTIVEPROFILE=profile_A"), std::string::npos) << settings;
+    EXPECT_NE(settings.find("[OPTIONS]\r\nEDITORPATH=\r\nLANGUAGE=EN\r\n"), std::string::npos) << settings;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "Version.h"
 #include "app/Application.h"
+#include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "ui/QtText.h"
 #include "ui/controls/TabRow.h"
@@ -24,7 +25,6 @@ QLabel* Link(QWidget* parent, const char* name, const QString& address, const QS
     label->setText(
         QStringLiteral("<a href=\"%1\">%2</a>").arg(address.toHtmlEscaped(), shown.toHtmlEscaped()));
     label->setTextFormat(Qt::RichText);
-    label->setOpenExternalLinks(true);
     label->setTextInteractionFlags(Qt::TextBrowserInteraction);
     return label;
 }
@@ -81,6 +81,21 @@ QWidget* frmInfo::CreateContactPage() {
                           QtText::ToQt(Application::WebpageAddress()));
     lblEmailLink = Link(page, "lblEmailLink", QtText::ToQt(Application::ContactAddress()),
                         QString::fromUtf8(Version::kContactEmail));
+    // The links open through the application, as the menu's commands do.
+    connect(lblWebpageLink, &QLabel::linkActivated, this, [this] {
+        try {
+            App().ShowPavonelWebpage(static_cast<int64_t>(winId()));
+        } catch (...) {
+            mError::ShowError("frmInfo.lblWebpageLink_Click");
+        }
+    });
+    connect(lblEmailLink, &QLabel::linkActivated, this, [this] {
+        try {
+            App().ContactAuthor(static_cast<int64_t>(winId()));
+        } catch (...) {
+            mError::ShowError("frmInfo.lblEmailLink_Click");
+        }
+    });
     auto* layout = new QGridLayout(page);
     layout->addWidget(lblWebpage, 0, 0);
     layout->addWidget(lblWebpageLink, 0, 1);

@@ -152,6 +152,9 @@ QWidget* frmMain::CreateDisplayPage() {
         field->setMaximumWidth(fontMetrics().averageCharWidth() * 8);
         field->installEventFilter(this);
     }
+    // The list stands between the two choices on the page, and so it does in the tab order.
+    setTabOrder(opResolution[0], lstResolution);
+    setTabOrder(lstResolution, opResolution[1]);
     UserControl11 = Named<ucResolutionPreview>(frmResolution, QStringLiteral("UserControl11"));
     lblResolution_Warning = WrappedLabel(page, "lblResolution_Warning");
 
@@ -216,7 +219,6 @@ QWidget* frmMain::CreateStartRow() {
     lblVersion = Named<QLabel>(row, QStringLiteral("lblVersion"));
     txtCommandLine = Named<QLineEdit>(row, QStringLiteral("txtCommandLine"));
     txtCommandLine->setReadOnly(true);
-    txtCommandLine->setFocusPolicy(Qt::ClickFocus);
     cmdStart = Named<QPushButton>(row, QStringLiteral("cmdStart"));
     cmdStart->setDefault(true);
     Image1 = Named<QLabel>(row, QStringLiteral("Image1"));
@@ -278,21 +280,27 @@ void frmMain::Form_Load() try {
 // The tab area keeps the active page in place when the window lays itself out; the resolution fields see
 // every key first.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    try {
-        if (watched == tabHost && event->type() == QEvent::Resize) {
+    if (watched == tabHost && event->type() == QEvent::Resize) {
+        try {
             PlaceTabs();
             for (int i = 0; i < kTabCount; ++i) {
                 if (ucTab1[i]->IsActive())
                     ActivatePage(i + 1);
             }
+        } catch (...) {
+            mError::ShowError("frmMain.Form_Resize");
         }
-        const bool resolutionField = watched == txtRes_Width || watched == txtRes_Height;
-        if (resolutionField && event->type() == QEvent::MouseButtonPress)
+    }
+    if (watched != txtRes_Width && watched != txtRes_Height)
+        return QMainWindow::eventFilter(watched, event);
+    const std::string field = watched == txtRes_Width ? "frmMain.txtRes_Width" : "frmMain.txtRes_Height";
+    try {
+        if (event->type() == QEvent::MouseButtonPress)
             opResolution[1]->setChecked(true);
-        if (resolutionField && event->type() == QEvent::KeyPress)
+        if (event->type() == QEvent::KeyPress)
             return ResolutionField_KeyPress(*static_cast<QKeyEvent*>(event));
     } catch (...) {
-        mError::ShowError("frmMain.Form_Resize");
+        mError::ShowError(field + (event->type() == QEvent::KeyPress ? "_KeyPress" : "_Click"));
     }
     return QMainWindow::eventFilter(watched, event);
 }

@@ -91,10 +91,11 @@ private:
     void ShowValues(const Profile& profile);
     void CheckData();
     void CorrectInput();
+    void TellCorrection(const char* key, QWidget* focus);
     void FillScenarioFilesList();
     void FillDatenPakList();
     void lstResolution_Click();
-    void ResolutionField_Edited();
+    void ControlChanged(const char* procedure);
     bool ResolutionField_KeyPress(const QKeyEvent& event);
     void ShowCommandLine();
     void ConnectBinding();
@@ -210,5 +211,5 @@ private:
     QAction* mnuHelp_About = nullptr;
 
     bool m_loading = false;  // LoadData is filling the controls
-    bool m_ending = false;   // EndOnRequest has saved and unloaded; the window only closes
+    bool m_ending = false;   // EndOnRequest is ending the program: no questions, no messages
 };

@@ -6,11 +6,13 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QRegularExpressionValidator>
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/UserInterface.h"
 #include "app/mMain.h"
+#include "app/mPath.h"
 #include "base/mString.h"
 #include "error/mError.h"
 #include "mainwindow/frmMainLists.h"
@@ -56,8 +58,9 @@ MainWindowValues frmMain::Values() const {
 bool frmMain::LoadData(Profile& profile) try {
     App().SetActiveProfile(&profile);
     if (profile.TarvolinPath().empty()) {
+        // A cancelled chooser hands back its proposal, which is no game: only an existing file is one.
         const std::string chosen = mMain::AskForTarvoPath("");
-        if (chosen.empty())
+        if (!mPath::FileExists(chosen))
             Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinFolderNotDefined"), vbOKOnly);
         else
             profile.SetTarvolinPath(chosen);
@@ -129,17 +132,24 @@ void frmMain::CorrectInput() try {
     const frmMainRules::ResolutionCorrection corrected = frmMainRules::CorrectInput(Values());
     if (corrected.height) {
         txtRes_Height->setText(QtText::ToQt(*corrected.height));
-        ucTab1_Click(2);
-        Ui().MsgBox(Translator().TranslateEx("MAIN_DIALOG", "MSG_ResolutionHeigthChanged"), vbOKOnly);
+        TellCorrection("MSG_ResolutionHeigthChanged", nullptr);
     }
     if (corrected.width) {
         txtRes_Width->setText(QtText::ToQt(*corrected.width));
-        ucTab1_Click(2);
-        txtRes_Width->setFocus();
-        Ui().MsgBox(Translator().TranslateEx("MAIN_DIALOG", "MSG_ResolutionWidthChanged"), vbOKOnly);
+        TellCorrection("MSG_ResolutionWidthChanged", txtRes_Width);
     }
 } catch (...) {
     mError::PassOn("frmMain.CorrectInput");
+}
+
+// Shows the display page and says what was corrected; nobody is told while the program ends on request.
+void frmMain::TellCorrection(const char* key, QWidget* focus) {
+    if (m_ending)
+        return;
+    ucTab1_Click(2);
+    if (focus != nullptr)
+        focus->setFocus();
+    Ui().MsgBox(Translator().TranslateEx("MAIN_DIALOG", key), vbOKOnly);
 }
 
 void frmMain::FillScenarioFilesList() try {
@@ -176,8 +186,13 @@ bool frmMain::ResolutionField_KeyPress(const QKeyEvent& event) {
     return !frmMainRules::IsResolutionKey(text.at(0).unicode());
 }
 
-void frmMain::ResolutionField_Edited() try { ShowCommandLine(); } catch (...) {
-    mError::ShowError("frmMain.txtRes_Change");
+// Every edit that changes the command line shows it anew; a failure is reported under the control's name.
+void frmMain::ControlChanged(const char* procedure) {
+    try {
+        ShowCommandLine();
+    } catch (...) {
+        mError::ShowError(procedure);
+    }
 }
 
 // The line under the pages shows what Start will give the game, as the controls say now.
@@ -188,22 +203,33 @@ void frmMain::ShowCommandLine() {
 
 void frmMain::ConnectBinding() {
     connect(lstResolution, &QListWidget::currentRowChanged, this, [this] { lstResolution_Click(); });
-    for (QLineEdit* field : {txtRes_Width, txtRes_Height}) {
-        connect(field, &QLineEdit::textChanged, this, [this] { ResolutionField_Edited(); });
-        connect(field, &QLineEdit::editingFinished, this, [this, field] {
+    connect(lstResolution, &QListWidget::itemClicked, this, [this] { lstResolution_Click(); });
+    for (auto [field, name] : {std::pair{txtRes_Width, "frmMain.txtRes_Width"},
+                               std::pair{txtRes_Height, "frmMain.txtRes_Height"}}) {
+        // Only digits, also when text is pasted or dropped.
+        field->setValidator(
+            new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), field));
+        const std::string procedure = name;
+        connect(field, &QLineEdit::textChanged, this,
+                [this, procedure] { ControlChanged((procedure + "_Change").c_str()); });
+        connect(field, &QLineEdit::editingFinished, this, [this, procedure] {
             try {
                 CorrectInput();
             } catch (...) {
-                mError::ShowError(field == txtRes_Width ? "frmMain.txtRes_Width_LostFocus"
-                                                        : "frmMain.txtRes_Height_LostFocus");
+                mError::ShowError(procedure + "_LostFocus");
             }
         });
     }
-    const auto edited = [this] { ResolutionField_Edited(); };
-    connect(ckLogMessages, &QCheckBox::stateChanged, this, edited);
-    connect(ckFreeplay, &QCheckBox::stateChanged, this, edited);
-    connect(opResolution[0], &QRadioButton::toggled, this, edited);
-    connect(lstRefresh, &QListWidget::currentRowChanged, this, edited);
-    connect(txtScenario, &QComboBox::currentTextChanged, this, edited);
-    connect(txtGraphicPack, &QComboBox::currentTextChanged, this, edited);
+    connect(ckLogMessages, &QCheckBox::stateChanged, this,
+            [this] { ControlChanged("frmMain.ckLogMessages_Click"); });
+    connect(ckFreeplay, &QCheckBox::stateChanged, this,
+            [this] { ControlChanged("frmMain.ckFreeplay_Click"); });
+    connect(opResolution[0], &QRadioButton::toggled, this,
+            [this] { ControlChanged("frmMain.opResolution_Click"); });
+    connect(lstRefresh, &QListWidget::currentRowChanged, this,
+            [this] { ControlChanged("frmMain.lstRefresh_Click"); });
+    connect(txtScenario, &QComboBox::currentTextChanged, this,
+            [this] { ControlChanged("frmMain.txtScenario_Change"); });
+    connect(txtGraphicPack, &QComboBox::currentTextChanged, this,
+            [this] { ControlChanged("frmMain.txtGraphicPack_Change"); });
 }

@@ -77,8 +77,10 @@ void frmMain::cmdOpenTarvoDir_Click() try {
 
 // A new game path refills the lists from its folder.
 void frmMain::cmdSelectTarvoPath_Click() try {
-    const std::string chosen = mMain::AskForTarvoPath(QtText::FromQt(txtTarvolinPath->Text()));
-    if (chosen.empty())
+    // A cancelled chooser hands back what it proposed: nothing new was chosen then.
+    const std::string current = QtText::FromQt(txtTarvolinPath->Text());
+    const std::string chosen = mMain::AskForTarvoPath(current);
+    if (chosen == current || !mPath::FileExists(chosen))
         return;
     txtTarvolinPath->SetText(QtText::ToQt(chosen));
     RefreshProfileData();
@@ -217,6 +219,7 @@ void frmMain::Form_Unload() try {
 }
 
 void frmMain::EndOnRequest() {
+    m_ending = true;
     try {
         RefreshProfileData();
     } catch (...) {
@@ -227,13 +230,12 @@ void frmMain::EndOnRequest() {
     } catch (...) {
         mError::ShowError("frmMain.EndOnRequest");
     }
-    Form_Unload();
-    m_ending = true;
     close();
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (m_ending) {
+        Form_Unload();
         event->accept();
         return;
     }

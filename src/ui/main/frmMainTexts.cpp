@@ -72,6 +72,12 @@ void frmMain::TranslatePages() {
     lblwidth_heigth->setText(keys.Add(MainText("LBL_RESOLUTION_WIDTH_HEIGTH")));
     frmScreenRefresh->setTitle(keys.Add(MainText("LBL_SCREEN_REFRESH")));
     cmdOpenTarvoDir->setText(keys.Add(MainText("BTN_OPEN_TARVOFOLDER")));
+    // Fields without a label of their own are named for screen readers.
+    txtRes_Height->setAccessibleName(MainText("LBL_RESOLUTION_WIDTH_HEIGTH"));
+    lstResolution->setAccessibleName(MainText("OP_STANDARD_RESOLUTION"));
+    lstRefresh->setAccessibleName(MainText("LBL_SCREEN_REFRESH"));
+    txtCommandLine->setAccessibleName(MainText("LBL_COMMANDLINE"));
+    txtCommandLine->setToolTip(MainText("LBL_COMMANDLINE"));
     lblLogMsg->setText(MainText("LBL_LOG_DESC"));
     lblFreeplayMode_Desc->setText(MainText("LBL_FREEPLAY_DESC"));
     lblScenarioInfo->setText(MainText("LBL_SCENARIO_LIST_INFO"));

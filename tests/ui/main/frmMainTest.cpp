@@ -114,6 +114,11 @@ TEST_F(frmMainTest, ResolutionFieldsTakeDigitsAndCorrectSmallValues) {
     EXPECT_EQ(boxes.size(), 2);
     EXPECT_EQ(main->focusWidget(), Control("txtRes_Width"));
     EXPECT_EQ(Control<QLineEdit>("txtCommandLine")->text(), "-log -screensize 640x400 -refresh 1");
+    Type("txtRes_Height", "300");
+    Control("lstRefresh")->setFocus();
+    QTest::keyClick(Control("txtRes_Height"), Qt::Key_Return);
+    EXPECT_EQ(Control<QLineEdit>("txtRes_Height")->text(), "400");
+    EXPECT_EQ(main->focusWidget(), Control("lstRefresh"));
 }
 
 // A failed check ends the start with a report and writes nothing into the profile; so does a command line
@@ -167,7 +172,7 @@ TEST_F(frmMainTest, ProfileMenuSwitchesAndKeepsTheEdits) {
     EXPECT_TRUE(Menu("mnuProfile_List_1")->isChecked() && !Menu("mnuProfile_List_0")->isChecked());
     EXPECT_EQ(Control<QListWidget>("lstRefresh")->currentRow(), 2);
 
-    // The new profile has no game yet: the chooser that offers one is cancelled.
+    // The new profile has no game yet: the chooser that offers one is cancelled, and the user is told.
     window = [](QDialog& shown) {
         if (shown.objectName() != "frmEditProfile")
             return;
@@ -177,6 +182,9 @@ TEST_F(frmMainTest, ProfileMenuSwitchesAndKeepsTheEdits) {
     };
     Menu("mnuProfile_New")->trigger();
     EXPECT_EQ(Active().ProfileName(), "profile_Race");
+    EXPECT_EQ(Active().TarvolinPath(), "");
+    EXPECT_EQ(boxes, QStringList{QtText::ToQtLines(
+                         Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinFolderNotDefined"))});
     EXPECT_EQ(Menu("mnuProfile_List_2")->text(), "Race");
 }
 
@@ -213,7 +221,31 @@ TEST_F(frmMainTest, CommandsReachTheClipboardAndTheShell) {
               "/usr/bin/editor " + dir.File("game/tarvo.log"));
 }
 
-// Cancel keeps the window and the edits; No closes without saving the profiles; Yes saves them.
+// No closes without saving the profiles, but with the program's settings.
+TEST_F(frmMainTest, ClosingWithNoSavesNoProfile) {
+    Control<QCheckBox>("ckFreeplay")->setChecked(true);
+    buttons = {QMessageBox::No};
+    EXPECT_TRUE(main->close());
+    main = nullptr;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const std::string saved = ReadIni();
+    EXPECT_NE(saved.find("[profile_A]\r\nTARVOPATH=" + game + "\r\nFREEPLAY=0\r\n"), std::string::npos)
+        << saved;
+    EXPECT_NE(saved.find("FILEVERSION=1.1"), std::string::npos);
+}
+
+// Without a profile to work with, the program ends before any window: the user is told once.
+TEST_F(frmMainTest, WithoutAProfileNoWindowOpens) {
+    delete main;
+    WriteIni("[PROFILES]\r\nLASTACTIVEPROFILE=profile_Gone\r\n[profile_A]\r\n");
+    boxes.clear();
+    main = Main();
+    EXPECT_EQ(main, nullptr);
+    EXPECT_EQ(boxes, QStringList{"You have to load a profile, if you want to use this application."});
+    EXPECT_EQ(g_cApp, nullptr);
+}
+
+// Cancel keeps the window and the edits; Yes saves the profiles chosen in the save window.
 TEST_F(frmMainTest, ClosingAsksWhetherToSave) {
     Control<QCheckBox>("ckFreeplay")->setChecked(true);
     buttons = {QMessageBox::Cancel};
