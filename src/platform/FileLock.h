@@ -15,7 +15,10 @@ public:
     // Waits up to `patience` for the lock of the file that a write to `path` changes (a symbolic link's
     // target shares the lock of the link). Nothing when it cannot be had in that time, or when no lock file
     // can be opened beside the file.
-    static std::optional<FileLock> Acquire(const std::string& path, std::chrono::milliseconds patience);
+    // Without `create`, only a lock file that is already there is used (nothing is written beside a file
+    // that is not to be written).
+    static std::optional<FileLock> Acquire(const std::string& path, std::chrono::milliseconds patience,
+                                           bool create = true);
 
     ~FileLock();
     FileLock(FileLock&& other) noexcept;

@@ -159,11 +159,15 @@ bool IniStore::Commit(const std::string& file, Entry& entry) noexcept {
             entry.changes.clear();
             return true;
         }
+        // While another copy replaces the file it may look unwritable for a moment (on Windows); where a lock
+        // file shows that copies write here, the question is asked again under the lock, so that no write is
+        // dropped for that moment. Nothing is created beside a file that is not to be written.
         writable = platform::CanReplaceFile(file);
-        const std::optional<platform::FileLock> lock = writable
-                                                           ? platform::FileLock::Acquire(file, m_lockPatience)
-                                                           : std::optional<platform::FileLock>();
-        if (lock && Rebase(file, entry) && Replace(file, entry))
+        const std::optional<platform::FileLock> lock =
+            platform::FileLock::Acquire(file, m_lockPatience, writable);
+        if (lock && !writable)
+            writable = platform::CanReplaceFile(file);
+        if (lock && writable && Rebase(file, entry) && Replace(file, entry))
             return true;
     } catch (...) {
         // Out of memory: the file keeps its old content, as with any failed write.

@@ -15,19 +15,20 @@
 namespace platform {
 namespace {
 
-int OpenLockFile(const std::string& target) {
+int OpenLockFile(const std::string& target, bool create) {
     const std::string name = target.substr(target.find_last_of('/') + 1);
     const std::string lock = FolderOf(target) + "/" + LockFileName(name);
-    int fd = open(lock.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    int fd = open(lock.c_str(), O_RDWR | (create ? O_CREAT : 0) | O_CLOEXEC, 0666);
     // A lock file another user made may be read-only to this one; a shared descriptor locks as well.
     return fd >= 0 ? fd : open(lock.c_str(), O_RDONLY | O_CLOEXEC);
 }
 
 }  // namespace
 
-std::optional<FileLock> FileLock::Acquire(const std::string& path, std::chrono::milliseconds patience) {
+std::optional<FileLock> FileLock::Acquire(const std::string& path, std::chrono::milliseconds patience,
+                                          bool create) {
     const std::string target = WriteTargetOf(path);
-    const int fd = target.empty() ? -1 : OpenLockFile(target);
+    const int fd = target.empty() ? -1 : OpenLockFile(target, create);
     if (fd < 0)
         return std::nullopt;
     const auto deadline = std::chrono::steady_clock::now() + patience;

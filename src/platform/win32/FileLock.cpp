@@ -11,12 +11,12 @@
 namespace platform {
 namespace {
 
-HANDLE OpenLockFile(const std::string& target) {
+HANDLE OpenLockFile(const std::string& target, bool create) {
     const std::string name = target.substr(target.find_last_of("\\/") + 1);
     const std::string lock = FolderOf(target) + "\\" + LockFileName(name);
     return CreateFileA(lock.c_str(), GENERIC_READ | GENERIC_WRITE,
-                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
-                       FILE_ATTRIBUTE_HIDDEN, nullptr);
+                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                       create ? OPEN_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_HIDDEN, nullptr);
 }
 
 bool TryLock(HANDLE file) {
@@ -26,8 +26,9 @@ bool TryLock(HANDLE file) {
 
 }  // namespace
 
-std::optional<FileLock> FileLock::Acquire(const std::string& path, std::chrono::milliseconds patience) {
-    const HANDLE file = OpenLockFile(WriteTargetOf(path));
+std::optional<FileLock> FileLock::Acquire(const std::string& path, std::chrono::milliseconds patience,
+                                          bool create) {
+    const HANDLE file = OpenLockFile(WriteTargetOf(path), create);
     if (file == INVALID_HANDLE_VALUE)
         return std::nullopt;
     const ULONGLONG deadline = GetTickCount64() + static_cast<ULONGLONG>(patience.count());
