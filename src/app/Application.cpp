@@ -12,8 +12,8 @@
 namespace {
 
 // The companions find the settings file through the program-wide application object, whichever it is now.
-std::optional<std::string> ProgramSettingsPath() {
-    return g_cApp ? std::optional<std::string>(g_cApp->IniPath()) : std::nullopt;
+std::optional<std::string_view> ProgramSettingsPath() {
+    return g_cApp ? std::optional<std::string_view>(g_cApp->IniPath()) : std::nullopt;
 }
 
 }  // namespace

@@ -46,11 +46,17 @@ bool ParseDecimal(std::string_view text, Number& number) {
 
 }  // namespace
 
+// Plain loops: find_first_not_of would call memchr for every character it passes, and this runs for
+// every line of a settings file.
 std::string_view TrimView(std::string_view text, std::string_view blanks) {
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    const auto isBlank = [blanks](char c) {
+        return std::find(blanks.begin(), blanks.end(), c) != blanks.end();
+    };
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 std::string_view UpToLastOf(std::string_view text, std::string_view characters) {
@@ -89,12 +95,49 @@ bool EqualsNoCase(std::string_view a, std::string_view b) {
            std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
+std::size_t NoCaseHash::operator()(std::string_view text) const noexcept {
+    std::size_t hash = 14695981039346656037ULL;  // FNV-1a
+    for (const char c : text)
+        hash = (hash ^ static_cast<unsigned char>(Lower(c))) * 1099511628211ULL;
+    return hash;
+}
+
+bool NoCaseEqual::operator()(std::string_view a, std::string_view b) const noexcept {
+    return EqualsNoCase(a, b);
+}
+
+// Two fast searches instead of find_first_of, which calls memchr once for every character it passes. They
+// look at a stretch at a time, so that in a text with one kind of break the search for the other never
+// runs to the text's end for every line.
+Line FirstLine(std::string_view text) {
+    constexpr std::size_t kStretch = 256;
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const std::string_view stretch = text.substr(end, kStretch);
+        const std::size_t lineFeed = stretch.find('\n');
+        const std::size_t found = std::min(lineFeed, stretch.substr(0, lineFeed).find('\r'));
+        if (found != std::string_view::npos) {
+            end += found;
+            break;
+        }
+        end += stretch.size();
+    }
+    const bool crLf = end + 1 < text.size() && text[end] == '\r' && text[end + 1] == '\n';
+    const std::size_t breakLength = end == text.size() ? 0 : crLf ? 2 : 1;
+    return {text.substr(0, end), text.substr(end, breakLength)};
+}
+
 bool StartsWithNoCase(std::string_view text, std::string_view prefix) {
     return text.size() >= prefix.size() && EqualsNoCase(text.substr(0, prefix.size()), prefix);
 }
 
 std::string StripAtNul(std::string_view text) {
     return std::string(text.substr(0, text.find('\0')));
+}
+
+std::string StripAtNul(std::string&& text) {
+    text.resize(std::min(text.find('\0'), text.size()));
+    return std::move(text);
 }
 
 std::vector<std::string> Split(std::string_view text, char separator) {

@@ -24,8 +24,36 @@ std::string LCase(std::string_view text);
 bool EqualsNoCase(std::string_view a, std::string_view b);
 bool StartsWithNoCase(std::string_view text, std::string_view prefix);
 
+// The first line of `text` and the break that ends it: CR LF, LF, CR, or nothing at the end of the text.
+struct Line {
+    std::string_view text;
+    std::string_view lineBreak;
+};
+Line FirstLine(std::string_view text);
+
+// Calls `visit` with each line of `text`; a last line without a break counts, an empty text has none.
+template <class Visit>
+void ForEachLine(std::string_view text, Visit&& visit) {
+    while (!text.empty()) {
+        const Line line = FirstLine(text);
+        visit(line);
+        text.remove_prefix(line.text.size() + line.lineBreak.size());
+    }
+}
+
+// A hash and an equality that ignore ASCII case, for maps looked up with any spelling of a name.
+struct NoCaseHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const noexcept;
+};
+struct NoCaseEqual {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const noexcept;
+};
+
 // The text before the first NUL character, or the whole text when it holds none.
 std::string StripAtNul(std::string_view text);
+std::string StripAtNul(std::string&& text);
 
 std::vector<std::string> Split(std::string_view text, char separator);
 

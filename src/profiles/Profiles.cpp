@@ -23,24 +23,10 @@ constexpr std::string_view kProfileHeader = "[profile_";
 // A profile's name from one line of the settings file, or "" when the line is no profile header. The last
 // character is dropped whatever it is: it is meant to be the closing bracket.
 std::string ProfileNameOf(std::string_view line) {
-    const std::string trimmed = mString::Trim(line);
+    const std::string_view trimmed = mString::TrimView(line);
     if (trimmed.size() <= 2 || !mString::StartsWithNoCase(trimmed, kProfileHeader))
         return {};
-    return trimmed.substr(1, trimmed.size() - 2);
-}
-
-// Lines end at a carriage return, a line feed or both, as a text file read line by line has them.
-template <class Visit>
-void ForEachLine(std::string_view text, Visit&& visit) {
-    while (!text.empty()) {
-        const size_t end = text.find_first_of("\r\n");
-        visit(text.substr(0, end));
-        if (end == std::string_view::npos)
-            return;
-        const size_t next =
-            (text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n') ? end + 2 : end + 1;
-        text.remove_prefix(next);
-    }
+    return std::string(trimmed.substr(1, trimmed.size() - 2));
 }
 
 }  // namespace
@@ -59,18 +45,18 @@ Profile& Profiles::Add(const std::string& Key, const std::string& sKey) try {
 
 void Profiles::Store(const std::string& key, std::unique_ptr<Profile> profile) {
     if (!key.empty())
-        m_byKey.emplace(mString::LCase(key), profile.get());
+        m_byKey.emplace(key, profile.get());
     m_items.push_back(Entry{key, std::move(profile)});
 }
 
 Profile* Profiles::Find(const std::string& key) const {
-    const auto found = m_byKey.find(mString::LCase(key));
+    const auto found = m_byKey.find(key);
     return found != m_byKey.end() ? found->second : nullptr;
 }
 
 void Profiles::Erase(std::vector<Entry>::iterator entry) {
     if (!entry->key.empty())
-        m_byKey.erase(mString::LCase(entry->key));
+        m_byKey.erase(entry->key);
     m_items.erase(entry);
 }
 
@@ -142,8 +128,9 @@ void Profiles::LoadData() try {
         // A file that cannot be read is treated like a missing one: its profiles cannot be shown anyway.
         if (std::optional<platform::FileContent> content = platform::ReadFile(path)) {
             const DecodedIni decoded = DecodeIni(content->bytes);
-            ForEachLine(decoded.text, [this](std::string_view line) {
-                const std::string name = ProfileNameOf(line);
+            // Lines end at a carriage return, a line feed or both, as a text file read line by line has them.
+            mString::ForEachLine(decoded.text, [this](const mString::Line& line) {
+                const std::string name = ProfileNameOf(line.text);
                 if (!name.empty())
                     LoadSection(name);
             });

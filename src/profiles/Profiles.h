@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/mString.h"
 #include "profiles/Profile.h"
 #include "storage/cIni_Profiles.h"
 
@@ -74,7 +75,8 @@ private:
     void LoadSection(const std::string& name);
 
     std::vector<Entry> m_items;
-    std::unordered_map<std::string, Profile*> m_byKey;  // lower-case key -> profile
+    std::unordered_map<std::string, Profile*, mString::NoCaseHash, mString::NoCaseEqual>
+        m_byKey;  // key in any case
     cIni_Profiles m_settings;
 };
 

@@ -7,7 +7,6 @@
 namespace {
 
 constexpr std::string_view kBlanks = " \t";
-constexpr std::string_view kLineBreaks = "\r\n";
 constexpr std::string_view kEolText[] = {"", "\r\n", "\n", "\r"};
 
 std::string_view TrimBlanks(std::string_view text) {
@@ -29,30 +28,29 @@ std::string Concat(std::string_view a, std::string_view b, std::string_view c) {
 }
 
 bool HasLineBreak(std::string_view text) {
-    return text.find_first_of(kLineBreaks) != std::string_view::npos;
+    return mString::FirstLine(text).lineBreak.size() > 0;
 }
 
 }  // namespace
 
 IniDocument::Line IniDocument::ParseLine(std::string_view text, Eol eol) {
-    Line line{std::string(text), eol, Kind::Other, {}};
+    Line line{std::string(text), 0, 0, eol, Kind::Other};
+    std::string_view name;
     std::string_view content = TrimBlanks(text);
     if (content.starts_with('[')) {
         std::string_view inside = content.substr(1);
         line.kind = Kind::Header;
-        line.name = mString::LCase(TrimBlanks(inside.substr(0, inside.find(']'))));
+        name = TrimBlanks(inside.substr(0, inside.find(']')));
     } else if (!content.starts_with(';')) {
         std::size_t equals = text.find('=');
         if (equals != std::string_view::npos) {
             line.kind = Kind::Key;
-            line.name = mString::LCase(TrimBlanks(text.substr(0, equals)));
+            name = TrimBlanks(text.substr(0, equals));
         }
     }
+    line.nameBegin = name.empty() ? 0 : static_cast<std::uint32_t>(name.data() - text.data());
+    line.nameLength = static_cast<std::uint32_t>(name.size());
     return line;
-}
-
-std::string IniDocument::KeySpelling(const Line& line) {
-    return std::string(TrimBlanks(std::string_view(line.text).substr(0, line.text.find('='))));
 }
 
 std::string IniDocument::ValueOf(const Line& line) {
@@ -60,28 +58,39 @@ std::string IniDocument::ValueOf(const Line& line) {
     return std::string(Unquoted(TrimBlanks(raw)));
 }
 
+// The lines are gathered first and each section then gets its own at once: a settings file with a
+// thousand profiles is read at every start, and a section's vector allocated once is a good part of that.
 IniDocument IniDocument::Parse(std::string_view text) {
+    std::vector<Line> lines;
+    lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
+    mString::ForEachLine(text, [&lines](const mString::Line& line) {
+        const Eol eol = line.lineBreak.empty()           ? Eol::None
+                        : line.lineBreak.size() == 2     ? Eol::CrLf
+                        : line.lineBreak.front() == '\n' ? Eol::Lf
+                                                         : Eol::Cr;
+        lines.push_back(ParseLine(line.text, eol));
+    });
     IniDocument document;
-    std::size_t begin = 0;
-    while (begin < text.size()) {
-        std::size_t end = text.find_first_of(kLineBreaks, begin);
-        if (end == std::string_view::npos) {
-            document.AddLine(ParseLine(text.substr(begin), Eol::None));
-            break;
-        }
-        bool crLf = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
-        Eol eol = crLf ? Eol::CrLf : (text[end] == '\n' ? Eol::Lf : Eol::Cr);
-        document.AddLine(ParseLine(text.substr(begin, end - begin), eol));
-        begin = end + (crLf ? 2 : 1);
+    auto begin = lines.begin();
+    while (begin != lines.end()) {
+        const auto end = std::find_if(std::next(begin), lines.end(),
+                                      [](const Line& line) { return line.kind == Kind::Header; });
+        if (begin->kind == Kind::Header)
+            document.StartSection(*begin);
+        document.m_sections.back().lines.assign(std::make_move_iterator(begin), std::make_move_iterator(end));
+        begin = end;
     }
     return document;
 }
 
+void IniDocument::StartSection(const Line& header) {
+    m_firstSection.try_emplace(std::string(header.Name()), m_sections.size());
+    m_sections.emplace_back();
+}
+
 void IniDocument::AddLine(Line line) {
-    if (line.kind == Kind::Header) {
-        m_firstSection.try_emplace(line.name, m_sections.size());
-        m_sections.emplace_back();
-    }
+    if (line.kind == Kind::Header)
+        StartSection(line);
     m_sections.back().lines.push_back(std::move(line));
 }
 
@@ -110,7 +119,7 @@ void IniDocument::SerializeInto(std::string& text) const {
 }
 
 IniDocument::Section* IniDocument::Find(std::string_view section) {
-    auto found = m_firstSection.find(mString::LCase(section));
+    auto found = m_firstSection.find(section);
     return found == m_firstSection.end() ? nullptr : &m_sections[found->second];
 }
 
@@ -120,9 +129,8 @@ const IniDocument::Section* IniDocument::Find(std::string_view section) const {
 
 std::vector<IniDocument::Line>::const_iterator IniDocument::FindKey(const Section& section,
                                                                     std::string_view key) {
-    std::string wanted = mString::LCase(key);
-    return std::find_if(section.lines.begin(), section.lines.end(), [&wanted](const Line& line) {
-        return line.kind == Kind::Key && line.name == wanted;
+    return std::find_if(section.lines.begin(), section.lines.end(), [key](const Line& line) {
+        return line.kind == Kind::Key && mString::EqualsNoCase(line.Name(), key);
     });
 }
 
@@ -171,11 +179,10 @@ bool IniDocument::Apply(std::string_view section, std::string_view key, std::str
     auto existing = FindKey(*found, key);
     if (existing != lines.end()) {
         Line& line = lines[static_cast<std::size_t>(existing - lines.begin())];
-        std::string text = Concat(KeySpelling(line), "=", value);
+        std::string text = Concat(line.Name(), "=", value);
         if (text == line.text && line.eol != Eol::None)
             return false;
-        line.text = std::move(text);
-        line.eol = Eol::CrLf;
+        line = ParseLine(text, Eol::CrLf);
         return true;
     }
     // A new key goes right behind the section's last key line, or behind its header when it has none.
@@ -201,7 +208,7 @@ bool IniDocument::DeleteKey(std::string_view section, std::string_view key) {
 }
 
 bool IniDocument::DeleteSection(std::string_view section) {
-    auto found = m_firstSection.find(mString::LCase(section));
+    auto found = m_firstSection.find(section);
     if (found == m_firstSection.end())
         return false;
     // As on Windows, the header and the key lines go; the comments written inside the section stay where
@@ -220,6 +227,6 @@ bool IniDocument::DeleteSection(std::string_view section) {
 void IniDocument::Reindex() {
     m_firstSection.clear();
     for (std::size_t i = 1; i < m_sections.size(); ++i) {
-        m_firstSection.try_emplace(m_sections[i].lines.front().name, i);
+        m_firstSection.try_emplace(std::string(m_sections[i].lines.front().Name()), i);
     }
 }

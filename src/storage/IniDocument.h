@@ -4,11 +4,14 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
+
+#include "base/mString.h"
 
 class IniDocument {
 public:
@@ -35,9 +38,13 @@ private:
 
     struct Line {
         std::string text;
+        // Where the section name of a header or the key name of a key line stands in `text`.
+        std::uint32_t nameBegin = 0;
+        std::uint32_t nameLength = 0;
         Eol eol = Eol::CrLf;
         Kind kind = Kind::Other;
-        std::string name;  // lower-case section name of a header, key name of a key line
+
+        std::string_view Name() const { return std::string_view(text).substr(nameBegin, nameLength); }
     };
 
     // A header line with the lines up to the next header; the first one holds the lines before any header.
@@ -46,9 +53,9 @@ private:
     };
 
     static Line ParseLine(std::string_view text, Eol eol);
-    static std::string KeySpelling(const Line& line);
     static std::string ValueOf(const Line& line);
 
+    void StartSection(const Line& header);
     void AddLine(Line line);
     void Reindex();
     Section* Find(std::string_view section);
@@ -59,5 +66,6 @@ private:
     bool Apply(std::string_view section, std::string_view key, std::string_view value);
 
     std::vector<Section> m_sections{Section{}};
-    std::unordered_map<std::string, std::size_t> m_firstSection;  // lower-case name -> index
+    std::unordered_map<std::string, std::size_t, mString::NoCaseHash, mString::NoCaseEqual>
+        m_firstSection;  // section name in any case -> index
 };

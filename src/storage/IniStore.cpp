@@ -56,8 +56,12 @@ void IniStore::Forget(Entry& entry) noexcept {
     entry.checked = false;
 }
 
-IniStore::Entry& IniStore::Current(const std::string& file) {
-    Entry& entry = m_files[file];
+IniStore::Entry& IniStore::Current(std::string_view path) {
+    auto found = m_files.find(path);
+    if (found == m_files.end())
+        found = m_files.try_emplace(std::string(path)).first;
+    const std::string& file = found->first;
+    Entry& entry = found->second;
     if (entry.updates > 0 || (entry.loads > 0 && entry.checked))
         return entry;
     std::optional<platform::FileContent> content;
@@ -77,7 +81,7 @@ IniStore::Entry& IniStore::Current(const std::string& file) {
     return entry;
 }
 
-std::optional<std::string> IniStore::Read(const std::string& file, std::string_view section,
+std::optional<std::string> IniStore::Read(std::string_view file, std::string_view section,
                                           std::string_view key) {
     return Current(file).document.Value(section, key);
 }

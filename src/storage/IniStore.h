@@ -19,7 +19,7 @@
 class IniStore {
 public:
     // The value of `key` in `section`, or nothing when the file, the section or the key is missing.
-    std::optional<std::string> Read(const std::string& file, std::string_view section, std::string_view key);
+    std::optional<std::string> Read(std::string_view file, std::string_view section, std::string_view key);
 
     // Sets (value given) or deletes (no value) a key, or deletes a whole section (no key).
     void Write(const std::string& file, std::string_view section, std::optional<std::string_view> key,
@@ -69,7 +69,7 @@ private:
     // What a look at the disk found, compared with a copy.
     enum class Found { Current, Changed, Missing, Unreadable };
 
-    Entry& Current(const std::string& file);
+    Entry& Current(std::string_view file);
     static Found Look(const std::string& file, const Entry& entry,
                       std::optional<platform::FileContent>& content);
     static void Take(Entry& entry, platform::FileContent content);
@@ -80,6 +80,13 @@ private:
     static void ForgetFile(Entry& entry) noexcept;
     static void Forget(Entry& entry) noexcept;
 
-    std::unordered_map<std::string, Entry> m_files;
+    // Looked up by views, so that a read makes no copy of the path.
+    struct PathHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view path) const noexcept {
+            return std::hash<std::string_view>{}(path);
+        }
+    };
+    std::unordered_map<std::string, Entry, PathHash, std::equal_to<>> m_files;
     std::chrono::milliseconds m_lockPatience = kDefaultLockPatience;
 };

@@ -8,10 +8,6 @@
 
 namespace {
 
-mIni::IniArg Arg(const std::optional<std::string>& text) {
-    return text ? mIni::IniArg(*text) : std::nullopt;
-}
-
 cIni_Base::PathSource g_pathSource = nullptr;
 
 }  // namespace
@@ -23,42 +19,42 @@ void cIni_Base::InstallPathSource(PathSource source) noexcept {
 cIni_Base::cIni_Base(std::string module, std::string section)
     : m_module(std::move(module)), m_section(std::move(section)) {}
 
-std::optional<std::string> cIni_Base::IniPath() {
+std::optional<std::string_view> cIni_Base::IniPath() {
     return g_pathSource != nullptr ? g_pathSource() : std::nullopt;
 }
 
 std::string cIni_Base::ReadFromIni(std::string_view key, std::string_view defaultValue) const try {
-    return mIni::ReadFromIni(Arg(IniPath()), m_section, key, defaultValue);
+    return mIni::ReadFromIni(IniPath(), m_section, key, defaultValue);
 } catch (...) {
     mError::PassOn(Procedure("ReadFromIni"));
 }
 
 void cIni_Base::WriteToIni(std::string_view key, std::string_view value) const try {
-    mIni::WriteToIni(Arg(IniPath()), m_section, key, value);
+    mIni::WriteToIni(IniPath(), m_section, key, value);
 } catch (...) {
     mError::PassOn(Procedure("WriteToIni"));
 }
 
 bool cIni_Base::ReadBoolFromIni(std::string_view key, bool defaultValue) const try {
-    return mIni::ReadBoolFromIni(Arg(IniPath()), m_section, key, defaultValue);
+    return mIni::ReadBoolFromIni(IniPath(), m_section, key, defaultValue);
 } catch (...) {
     mError::PassOn(Procedure("ReadBoolFromIni"));
 }
 
 void cIni_Base::WriteBoolToIni(std::string_view key, bool value) const try {
-    mIni::WriteBoolToIni(Arg(IniPath()), m_section, key, value);
+    mIni::WriteBoolToIni(IniPath(), m_section, key, value);
 } catch (...) {
     mError::PassOn(Procedure("WriteBoolToIni"));
 }
 
 std::string cIni_Base::ReadIntegerFromIni(std::string_view key, int16_t defaultValue) const try {
-    return mIni::ReadFromIni(Arg(IniPath()), m_section, key, std::to_string(defaultValue));
+    return mIni::ReadFromIni(IniPath(), m_section, key, std::to_string(defaultValue));
 } catch (...) {
     mError::PassOn(Procedure("ReadIntegerFromIni"));
 }
 
 void cIni_Base::WriteIntegerToIni(std::string_view key, int16_t value) const try {
-    mIni::WriteToIni(Arg(IniPath()), m_section, key, std::to_string(value));
+    mIni::WriteToIni(IniPath(), m_section, key, std::to_string(value));
 } catch (...) {
     mError::PassOn(Procedure("WriteIntegerToIni"));
 }
@@ -98,9 +94,9 @@ void cIni_Base::Write(const IniKey<int16_t>& key, int16_t value, const char* pro
 }
 
 iniFile::Update cIni_Base::BeginSave() const {
-    return iniFile::Update(IniPath().value_or(std::string()));
+    return iniFile::Update(std::string(IniPath().value_or(std::string_view())));
 }
 
 iniFile::Load cIni_Base::BeginLoad() const {
-    return iniFile::Load(IniPath().value_or(std::string()));
+    return iniFile::Load(std::string(IniPath().value_or(std::string_view())));
 }

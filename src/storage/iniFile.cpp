@@ -12,11 +12,11 @@ IniStore& Store() {
     return store;
 }
 
-std::string Read(const std::string& file, std::string_view section, std::string_view key,
+std::string Read(std::string_view file, std::string_view section, std::string_view key,
                  std::string_view defaultValue, std::size_t size) {
     if (size == 0)
         return {};
-    std::optional<std::string> value = Store().Read(file, mString::Trim(section), mString::Trim(key));
+    std::optional<std::string> value = Store().Read(file, mString::TrimView(section), mString::TrimView(key));
     std::string text = value ? std::move(*value) : mString::TrimRight(defaultValue);
     if (text.size() > size - 1)
         text.resize(size - 1);

@@ -12,7 +12,7 @@ namespace iniFile {
 // The text that a buffer of `size` characters would receive when reading `key` of `section` in `file`:
 // the stored value, or `defaultValue` without its trailing spaces when the key (or section, or file) is
 // missing, cut to `size - 1` characters. Spaces around `section` and `key` are ignored.
-std::string Read(const std::string& file, std::string_view section, std::string_view key,
+std::string Read(std::string_view file, std::string_view section, std::string_view key,
                  std::string_view defaultValue, std::size_t size);
 
 // Sets `key` of `section` in `file` to `value`; no value deletes the key, no key deletes the section with

@@ -16,8 +16,7 @@ void CheckArguments(const IniArg& file, const IniArg& section, const IniArg& key
 
 std::string ReadFromIni(IniArg file, IniArg section, IniArg key, std::string_view defaultValue) try {
     CheckArguments(file, section, key, mError::kInvalidValueRead);
-    std::string buffer = iniFile::Read(std::string(*file), *section, *key, defaultValue, kReadBufferSize);
-    return mString::StripAtNul(buffer);
+    return mString::StripAtNul(iniFile::Read(*file, *section, *key, defaultValue, kReadBufferSize));
 } catch (...) {
     mError::PassOn("mIni.ReadFromIni");
 }

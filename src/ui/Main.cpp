@@ -13,6 +13,7 @@
 #include "app/mMutex.h"
 #include "error/mError.h"
 #include "platform/Termination.h"
+#include "platform/VectorState.h"
 #include "translate/cTranslate.h"
 #include "ui/QtTranslation.h"
 #include "ui/QtUserInterface.h"
@@ -21,6 +22,7 @@
 frmMain* Main() {
     frmMain* window = nullptr;
     try {
+        platform::ClearUpperVectorState();
         mMutex::CreateMutex();
         g_cApp = std::make_unique<Application>();
         g_cTranslate = std::make_unique<cTranslate>();

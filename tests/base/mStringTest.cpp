@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "error/mError.h"
 #include "support/FailureMatchers.h"
 
@@ -64,5 +67,36 @@ INSTANTIATE_TEST_SUITE_P(
         IntCase{"abc", mError::kTypeMismatch, true}, IntCase{"12 3", mError::kTypeMismatch, true},
         IntCase{"1e3", mError::kTypeMismatch, true}, IntCase{"-", mError::kTypeMismatch, true},
         IntCase{".", mError::kTypeMismatch, true}, IntCase{"\t5", mError::kTypeMismatch, true}));
+
+// Every line with its break, as "text|break" pairs; the break shown as C (CR), L (LF) or CL.
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    mString::ForEachLine(text, [&lines](const mString::Line& line) {
+        std::string shown(line.text);
+        shown += '|';
+        for (const char c : line.lineBreak)
+            shown += c == '\r' ? 'C' : 'L';
+        lines.push_back(shown);
+    });
+    return lines;
+}
+
+TEST(ForEachLineTest, SplitsAtEveryKindOfBreakAndKeepsALastLineWithoutOne) {
+    using Lines = std::vector<std::string>;
+    EXPECT_EQ(LinesOf(""), Lines{});
+    EXPECT_EQ(LinesOf("a\r\nb\nc\rd"), (Lines{"a|CL", "b|L", "c|C", "d|"}));
+    EXPECT_EQ(LinesOf("\n\r\r\n\n\r"), (Lines{"|L", "|C", "|CL", "|L", "|C"}));
+    EXPECT_EQ(LinesOf("x\r"), Lines{"x|C"});
+    // Breaks far into a long line, and a text whose only breaks are carriage returns.
+    const std::string longLine(600, 'v');
+    EXPECT_EQ(LinesOf(longLine + "\r\n" + longLine), (Lines{longLine + "|CL", longLine + "|"}));
+    EXPECT_EQ(LinesOf(longLine + "\r" + longLine + "\n"), (Lines{longLine + "|C", longLine + "|L"}));
+    std::string crOnly;
+    for (int i = 0; i < 1000; ++i)
+        crOnly += "k=" + std::to_string(i) + "\r";
+    const Lines split = LinesOf(crOnly);
+    ASSERT_EQ(split.size(), 1000u);
+    EXPECT_EQ(split[999], "k=999|C");
+}
 
 }  // namespace

@@ -270,9 +270,16 @@ void frmMain::ActivatePage(int page) try {
     mError::PassOn("frmMain.ActivatePage");
 }
 
+// The picture is given when the preview first shows: the first picture a program decodes costs it about a
+// millisecond, and the preview's page is not the first.
 void frmMain::Form_Load() try {
+    if (!UserControl11->isVisible()) {
+        UserControl11->installEventFilter(this);
+        return;
+    }
     Image1->setPixmap(ucResolutionPreview::SamplePicture());
     UserControl11->SetPicture(Image1->pixmap());
+    ShowPreview();
 } catch (...) {
     mError::ShowError("frmMain.Form_Load");
 }
@@ -280,6 +287,10 @@ void frmMain::Form_Load() try {
 // The tab area keeps the active page in place when the window lays itself out; the resolution fields see
 // every key first.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == UserControl11 && event->type() == QEvent::Show) {
+        UserControl11->removeEventFilter(this);
+        Form_Load();
+    }
     if (watched == tabHost && event->type() == QEvent::Resize) {
         try {
             PlaceTabs();

@@ -95,6 +95,7 @@ private:
     void FillScenarioFilesList();
     void FillDatenPakList();
     void lstResolution_Click();
+    void ShowPreview();
     void ControlChanged(const char* procedure);
     bool ResolutionField_KeyPress(const QKeyEvent& event);
     void ShowCommandLine();
@@ -130,6 +131,7 @@ private:
     void CreateMenus();
     QAction* NewAction(QMenu* menu, const char* name);
     void FillProfileList();
+    void ShowProfileList();
     void InitLanguageList();
     void HighligthSelectedLanguage();
     void RefreshAccessoriesMenu();
@@ -210,6 +212,7 @@ private:
     QAction* mnuFile_SendFeedback = nullptr;
     QAction* mnuHelp_About = nullptr;
 
-    bool m_loading = false;  // LoadData is filling the controls
-    bool m_ending = false;   // EndOnRequest is ending the program: no questions, no messages
+    bool m_loading = false;           // LoadData is filling the controls
+    bool m_profileListShown = false;  // the profile menu's items show the profiles as they are
+    bool m_ending = false;            // EndOnRequest is ending the program: no questions, no messages
 };

@@ -167,11 +167,15 @@ void frmMain::FillDatenPakList() try {
 void frmMain::lstResolution_Click() try {
     if (!m_loading)
         opResolution[0]->setChecked(true);
-    if (const auto preview = frmMainRules::PreviewFor(lstResolution->currentRow()))
-        UserControl11->SetResolution(preview->width, preview->height, preview->fillArea);
+    ShowPreview();
     ShowCommandLine();
 } catch (...) {
     mError::ShowError("frmMain.lstResolution_Click");
+}
+
+void frmMain::ShowPreview() {
+    if (const auto preview = frmMainRules::PreviewFor(lstResolution->currentRow()))
+        UserControl11->SetResolution(preview->width, preview->height, preview->fillArea);
 }
 
 // Typing into a resolution field switches to the user-defined mode; only digits and backspace get in.

@@ -20,19 +20,34 @@ QMenu* NewMenu(QWidget* parent, const char* name) {
     return menu;
 }
 
-// The item `index` of a built menu, created with its handler when it does not exist yet.
+// Shows `items` in a built menu: its first entries take their captions, tags and checks, the others are
+// hidden. Missing entries are made whole before the menu gets them, all at once, and a property is set
+// only when it changes: with a thousand profiles every event the menu is spared counts at start.
 template <class Handler>
-QAction* BuiltItem(std::vector<QAction*>& items, std::size_t index, QMenu* menu, const QString& name,
-                   Handler handler) {
-    while (items.size() <= index) {
-        auto* item = menu->addAction(QString());
-        item->setObjectName(name + QStringLiteral("_%1").arg(items.size()));
+void ShowBuiltItems(std::vector<QAction*>& built, const std::vector<frmMainLists::MenuItem>& items,
+                    QMenu* menu, const QString& name, Handler handler) {
+    QList<QAction*> added;
+    while (built.size() < items.size()) {
+        auto* item = new QAction(menu);
+        item->setObjectName(name + QStringLiteral("_%1").arg(built.size()));
         item->setCheckable(true);
         QObject::connect(item, &QAction::triggered, menu,
-                         [handler, i = static_cast<int>(items.size())] { handler(i); });
-        items.push_back(item);
+                         [handler, i = static_cast<int>(built.size())] { handler(i); });
+        built.push_back(item);
+        added.push_back(item);
     }
-    return items[index];
+    for (std::size_t i = 0; i < built.size(); ++i) {
+        QAction* item = built[i];
+        if (i < items.size()) {
+            item->setText(QtText::ToQt(items[i].caption).replace(u'&', QStringLiteral("&&")));
+            const QString tag = QtText::ToQt(items[i].tag);
+            if (item->data().toString() != tag)
+                item->setData(tag);
+            item->setChecked(items[i].checked);
+        }
+        item->setVisible(i < items.size());
+    }
+    menu->addActions(added);
 }
 
 }  // namespace
@@ -53,6 +68,13 @@ void frmMain::CreateMenus() {
     mnuProfile_Edit = NewAction(mnuFile_Profiles, "mnuProfile_Edit");
     mnuProfil_Manager = NewAction(mnuFile_Profiles, "mnuProfil_Manager");
     mnuFile_Profiles->addSeparator();
+    connect(mnuFile_Profiles, &QMenu::aboutToShow, this, [this] {
+        try {
+            ShowProfileList();
+        } catch (...) {
+            mError::ShowError("frmMain.FillProfileList");
+        }
+    });
     mnuEdit = menuBar()->addMenu(NewMenu(this, "mnuEdit"))->menu();
     mnuEditCopy_CmdLine = NewAction(mnuEdit, "mnuEditCopy_CmdLine");
     mnuExtra = menuBar()->addMenu(NewMenu(this, "mnuExtra"))->menu();
@@ -79,33 +101,29 @@ void frmMain::CreateMenus() {
     mnuHelp_About = NewAction(mnuHelp, "mnuHelp_About");
 }
 
+// The items are made when the menu is about to open, or at once while it is open: with a thousand profiles
+// they would be most of the window's start, and nobody sees them before.
 void frmMain::FillProfileList() try {
-    for (QAction* item : mnuProfile_List)
-        item->setVisible(false);
-    const std::vector<frmMainLists::MenuItem> items =
-        frmMainLists::ProfileMenuItems(App().Profiles(), App().ActiveProfile());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        QAction* item = BuiltItem(mnuProfile_List, i, mnuFile_Profiles, QStringLiteral("mnuProfile_List"),
-                                  [this](int index) { mnuProfile_List_Click(index); });
-        item->setVisible(true);
-        item->setText(QtText::ToQt(items[i].caption).replace(u'&', QStringLiteral("&&")));
-        item->setData(QtText::ToQt(items[i].tag));
-        item->setChecked(items[i].checked);
-    }
+    m_profileListShown = false;
+    if (mnuFile_Profiles->isVisible())
+        ShowProfileList();
 } catch (...) {
     mError::PassOn("frmMain.FillProfileList");
 }
 
+void frmMain::ShowProfileList() {
+    if (m_profileListShown)
+        return;
+    ShowBuiltItems(mnuProfile_List, frmMainLists::ProfileMenuItems(App().Profiles(), App().ActiveProfile()),
+                   mnuFile_Profiles, QStringLiteral("mnuProfile_List"),
+                   [this](int index) { mnuProfile_List_Click(index); });
+    m_profileListShown = true;
+}
+
 void frmMain::InitLanguageList() try {
-    const std::vector<frmMainLists::MenuItem> items =
-        frmMainLists::LanguageMenuItems(App(), App().Options().Language());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        QAction* item =
-            BuiltItem(mnuOptions_Lang_Item, i, mnuOptions_Lang, QStringLiteral("mnuOptions_Lang_Item"),
-                      [this](int index) { mnuOptions_Lang_Item_Click(index); });
-        item->setText(QtText::ToQt(items[i].caption).replace(u'&', QStringLiteral("&&")));
-        item->setData(QtText::ToQt(items[i].tag));
-    }
+    ShowBuiltItems(mnuOptions_Lang_Item, frmMainLists::LanguageMenuItems(App(), App().Options().Language()),
+                   mnuOptions_Lang, QStringLiteral("mnuOptions_Lang_Item"),
+                   [this](int index) { mnuOptions_Lang_Item_Click(index); });
     HighligthSelectedLanguage();
 } catch (...) {
     mError::PassOn("frmMain.InitLanguageList");

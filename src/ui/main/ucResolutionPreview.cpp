@@ -39,7 +39,8 @@ ucResolutionPreview::ucResolutionPreview(QWidget* parent) : QWidget(parent) {
 
 QPixmap ucResolutionPreview::SamplePicture() {
     InitSamplePictureResource();
-    QPixmap picture(kSamplePicturePath);
+    // Named, the format spares the probing of every image plugin at start.
+    QPixmap picture(kSamplePicturePath, "PNG");
     picture.setDevicePixelRatio(kSamplePictureScale);
     return picture;
 }

@@ -1,6 +1,7 @@
 // The whole program started in-process through Main, on a program folder of its own with the real language
 // files, a real settings file and a game folder; the user's part is played by clicks, keys and answers.
 #include "ui/main/frmMain.h"
+#include "ui/main/ucResolutionPreview.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
@@ -63,7 +65,14 @@ protected:
     T* Control(const char* name) const {
         return Find<T>(*main, name);
     }
-    QAction* Menu(const char* name) const { return main->findChild<QAction*>(name); }
+    // An entry of the menus, after opening the profile menu as a user does before choosing a profile: its
+    // items are made as it opens.
+    QAction* Menu(const char* name) const {
+        auto* profiles = main->findChild<QMenu*>("mnuFile_Profiles");
+        profiles->popup(QPoint());
+        profiles->hide();
+        return main->findChild<QAction*>(name);
+    }
     Profile& Active() const { return *g_cApp->ActiveProfile(); }
     void Type(const char* field, const QString& text) {
         auto* edit = Control<QLineEdit>(field);
@@ -89,11 +98,16 @@ TEST_F(frmMainTest, StartsWithTheRememberedProfileAndSwitchesPages) {
     EXPECT_EQ(Control<QComboBox>("txtGraphicPack")->itemText(0), "pak128.pak");
     EXPECT_EQ(Control<QLabel>("lblVersion")->text(), "Pavonel 0.1.0 with Tarvolin");
     EXPECT_TRUE(Menu("mnuProfile_List_0")->isChecked() && !Menu("mnuProfile_List_1")->isChecked());
+    Control<QListWidget>("lstResolution")->setCurrentRow(1);  // 800 x 600, chosen before its page shows
     QTest::mouseClick(Control("ucTab1_2"), Qt::LeftButton);
     for (int page = 1; page <= frmMain::kTabCount; ++page)
         EXPECT_EQ(Control(QStringLiteral("picPage_%1").arg(page).toLatin1())->isVisible(), page == 3) << page;
     EXPECT_TRUE(Control<ucTab>("ucTab1_2")->IsActive());
     EXPECT_FALSE(Control<ucTab>("ucTab1_0")->IsActive());
+    // The preview shows the sample picture for the chosen resolution once its page is open.
+    EXPECT_FALSE(Control<QLabel>("Image1")->pixmap().isNull());
+    EXPECT_EQ(Control<ucResolutionPreview>("UserControl11")->ImageRect().size(),
+              QSize(102, 77));  // 800 x 600
 }
 
 // Only digits get into a resolution field, and typing there chooses the user-defined mode; leaving it
