@@ -86,6 +86,17 @@ void BenchFolder::WriteSettings() const {
     iniFile::Store().Clear();
 }
 
+void BenchFolder::PointAt(const fs::path& gameFolder) const {
+    std::ifstream in(m_path / "Pavonel.ini", std::ios::binary);
+    std::string settings(std::istreambuf_iterator<char>(in), {});
+    in.close();
+    const std::string old = "/games/Tarvolin/";
+    const std::string now = (gameFolder / "").string();
+    for (std::size_t at = 0; (at = settings.find(old, at)) != std::string::npos; at += now.size())
+        settings.replace(at, old.size(), now);
+    std::ofstream(m_path / "Pavonel.ini", std::ios::binary) << settings;
+}
+
 void BenchFolder::Enter() {
     InstallPlatform(m_platform.get());
     g_cApp = std::make_unique<Application>();

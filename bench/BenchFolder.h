@@ -23,6 +23,9 @@ public:
     // Rewrites the settings file as it was at the start.
     void WriteSettings() const;
 
+    // Makes every profile's game the tarvolin.exe in `gameFolder`.
+    void PointAt(const std::filesystem::path& gameFolder) const;
+
     // Makes this folder the program's folder and creates the program-wide objects on it.
     void Enter();
 

@@ -163,15 +163,7 @@ private:
 void BM_PavonelBigGameFolder(benchmark::State& state) {
     static BenchFolder folder(10);
     static const BigGameFolder game;
-    [[maybe_unused]] static const bool pointed = [] {
-        std::ifstream in(folder.Path() / "Pavonel.ini", std::ios::binary);
-        std::string settings(std::istreambuf_iterator<char>(in), {});
-        const std::string old = "/games/Tarvolin/";
-        for (std::size_t at; (at = settings.find(old)) != std::string::npos;)
-            settings.replace(at, old.size(), game.Path().string() + "/");
-        std::ofstream(folder.Path() / "Pavonel.ini", std::ios::binary) << settings;
-        return true;
-    }();
+    [[maybe_unused]] static const bool pointed = (folder.PointAt(game.Path()), true);
     Measure(state, "main", folder.Path().string());
 }
 BENCHMARK(BM_PavonelBigGameFolder)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
