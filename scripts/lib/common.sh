@@ -38,6 +38,8 @@ PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbench
 # the text editor proposed when no desktop editor is installed; Qt's translations give its own texts (the
 # file chooser's buttons) in the chosen language.
 PAVONEL_RUN_PACKAGES=(xdg-utils qt6-translations-l10n)
+# Without a display, scripts/run starts the launcher on a virtual X display and serves it over VNC.
+PAVONEL_HEADLESS_PACKAGES=(xvfb x11vnc)
 PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format)
 # The Windows build: the compiler, GoogleTest's sources to build for Windows, and Wine to run the tests.
 PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64)

@@ -1,5 +1,7 @@
-// A stand-in for the game in launch tests: it appends a line to tarvo.log in its working directory the way
-// the game does, records how it was started, and ends at once.
+// A stand-in for the game in launch tests and in the demo of scripts/run: it appends a line to tarvo.log in
+// its working directory the way the game does, records how it was started, and ends at once. Started with
+// PAVONEL_STANDIN_WINDOW=1 in its environment (scripts/run sets it for the demo), the build with windows
+// then also shows a person what it received until the window is closed.
 //
 // The record, launch-record.txt beside this executable, holds the working directory on its first line, the
 // number of arguments on the second, and then each argument (argv[1] on) on a line of its own. In the
@@ -17,6 +19,9 @@
 
 #include "platform/NativePath.h"
 #include "platform/Platform.h"
+#ifdef PAVONEL_STANDIN_WITH_WINDOW
+#include "StandInWindow.h"
+#endif
 
 namespace fs = std::filesystem;
 
@@ -96,5 +101,10 @@ int main(int argc, char** argv) {
         std::cerr << "stand-in game: cannot write " << record << '\n';
         return EXIT_FAILURE;
     }
+#ifdef PAVONEL_STANDIN_WITH_WINDOW
+    if (const char* window = std::getenv("PAVONEL_STANDIN_WINDOW");
+        window != nullptr && std::string(window) == "1")
+        ShowStandInWindow(argc, argv, platform::TextOf(directory));
+#endif
     return logged ? EXIT_SUCCESS : EXIT_FAILURE;
 }
