@@ -28,6 +28,9 @@ public:
     std::string WindowsDirectory() override { return "/usr/bin"; }
     std::string TextEditorName() override { return "write.exe"; }
     bool CreateNamedMutex(const std::string&) override { return true; }
+    std::string ShellLinkEnding() override { return ".lnk"; }
+    bool WriteShellLink(const std::string&, const ShellLink&) override { return false; }
+    std::optional<ShellLink> ReadShellLink(const std::string&) override { return std::nullopt; }
 
 private:
     std::string m_folder;

@@ -40,6 +40,7 @@ PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbench
 PAVONEL_RUN_PACKAGES=(xdg-utils qt6-translations-l10n)
 # Without a display, scripts/run starts the launcher on a virtual X display and serves it over VNC.
 PAVONEL_HEADLESS_PACKAGES=(xvfb x11vnc)
-PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format)
+# The tests validate written desktop entries (desktop-file-validate) and start one through GLib (gio).
+PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format desktop-file-utils libglib2.0-bin)
 # The Windows build: the compiler, GoogleTest's sources to build for Windows, and Wine to run the tests.
 PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64)

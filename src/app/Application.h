@@ -52,6 +52,11 @@ public:
     // Writes the file and program versions and the options, as one update of the settings file.
     void SaveAppSettings();
 
+    // Writes a shortcut named `linkName` in `folder` that starts `target` with `arguments` (defined with the
+    // shortcuts, which lie a floor above). Failure 20008 when it was not written.
+    void CreateShortcut(const std::string& folder, const std::string& linkName, const std::string& target,
+                        const std::string& arguments);
+
     static std::string GetFAQFileName(const std::string& abbrev);
     void ShowFAQ(int64_t owner, const std::string& abbrev) const;
     void ShowPavonelWebpage(int64_t owner) const;

@@ -5,7 +5,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
+
+#include "platform/ShellLink.h"
 
 // The show command for ShellExec that opens a normal window.
 inline constexpr int32_t kSwShowNormal = 1;
@@ -54,6 +57,16 @@ public:
     // lives until the process ends; a second copy of the program creates it again without harm. Returns
     // false when it could not be created.
     virtual bool CreateNamedMutex(const std::string& name) = 0;
+
+    // The ending of the shortcut files this platform writes (".lnk" on Windows, ".desktop" on Linux).
+    virtual std::string ShellLinkEnding() = 0;
+
+    // Writes `link` as the shortcut file `linkFile`, replacing one that is there; false when it could not
+    // be written. The folder must exist.
+    virtual bool WriteShellLink(const std::string& linkFile, const ShellLink& link) = 0;
+
+    // The fields of the shortcut file `linkFile`; nothing when it cannot be read as one.
+    virtual std::optional<ShellLink> ReadShellLink(const std::string& linkFile) = 0;
 };
 
 // The installed platform (the native one when none is installed).

@@ -65,3 +65,40 @@ std::vector<std::string> SplitWindowsCommandLine(std::string_view parameters) {
     }
     return arguments;
 }
+
+namespace {
+
+// One argument as the runtime's rules read it back: quoted when it is empty or holds a blank or a quote;
+// inside the quotes a quote and the backslashes before it are escaped, and so are the backslashes before
+// the closing quote.
+void AppendArgument(std::string& text, std::string_view argument) {
+    if (!argument.empty() && argument.find_first_of(" \t\"") == std::string_view::npos) {
+        text += argument;
+        return;
+    }
+    text += '"';
+    std::size_t backslashes = 0;
+    for (const char c : argument) {
+        if (c == '\\') {
+            ++backslashes;
+            continue;
+        }
+        text.append(c == '"' ? backslashes * 2 + 1 : backslashes, '\\');
+        backslashes = 0;
+        text += c;
+    }
+    text.append(backslashes * 2, '\\');
+    text += '"';
+}
+
+}  // namespace
+
+std::string JoinWindowsCommandLine(const std::vector<std::string>& arguments) {
+    std::string text;
+    for (const std::string& argument : arguments) {
+        if (!text.empty())
+            text += ' ';
+        AppendArgument(text, argument);
+    }
+    return text;
+}

@@ -11,3 +11,6 @@
 // rules, as the runtimes since 2008 apply them (a doubled quote inside a quoted run is a literal quote).
 // The text ends at its first NUL character, as a C string would.
 std::vector<std::string> SplitWindowsCommandLine(std::string_view parameters);
+
+// The parameter text that SplitWindowsCommandLine cuts into exactly `arguments` again (none holds a NUL).
+std::string JoinWindowsCommandLine(const std::vector<std::string>& arguments);

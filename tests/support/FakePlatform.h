@@ -30,6 +30,11 @@ public:
     std::string WindowsDirectory() override { return windowsDirectory; }
     std::string TextEditorName() override { return "write.exe"; }
     bool CreateNamedMutex(const std::string& name) override;
+    std::string ShellLinkEnding() override { return linkEnding; }
+    // Keeps the link and writes a file of that name, so that the link exists for the program's file tests;
+    // with `linksFail` set, writes nothing and fails.
+    bool WriteShellLink(const std::string& linkFile, const ShellLink& link) override;
+    std::optional<ShellLink> ReadShellLink(const std::string& linkFile) override;
 
     std::vector<ShellCall> calls;
     int32_t shellResult = kShellExecOk;
@@ -37,6 +42,9 @@ public:
     std::map<int32_t, std::string> specialFolders;
     std::string windowsDirectory = "/usr/bin";
     std::vector<std::string> mutexes;
+    std::string linkEnding = ".lnk";
+    std::map<std::string, ShellLink> links;  // by link file, in the order of their names
+    bool linksFail = false;
 
 private:
     std::string m_programDirectory;

@@ -1,5 +1,5 @@
 // The main window on each of its pages, showing a profile whose game folder has scenarios and graphic paks,
-// and the about box.
+// the shortcut wizard on each of its pages, and the about box.
 #include <QDir>
 #include <QFile>
 
@@ -11,6 +11,8 @@
 #include "ui/QtText.h"
 #include "ui/dialogs/frmInfo.h"
 #include "ui/main/frmMain.h"
+#include "ui/shortcuts/frmCreateTarvolinShortcut_New.h"
+#include "ui/shortcuts/ucWizard_Nav.h"
 
 namespace Scenes {
 namespace {
@@ -34,6 +36,23 @@ private:
     QDir m_folder;
 };
 
+// The wizard proposes the desktop of a player whose home is always the same.
+void RenderShortcutWizard(ScreenshotSession& session, const Profile& profile) {
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", "/home/player");
+    const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_CONFIG_HOME");
+    frmCreateTarvolinShortcut_New wizard;
+    wizard.InitDialog(profile);
+    qputenv("HOME", home);
+    if (!config.isEmpty())
+        qputenv("XDG_CONFIG_HOME", config);
+    for (int page = 1; page <= frmCreateTarvolinShortcut_New::kPages; ++page) {
+        wizard.findChild<ucWizard_Nav*>()->ShowPage(static_cast<int16_t>(page));
+        session.Save(wizard, QStringLiteral("frmCreateTarvolinShortcut_New_%1").arg(page));
+    }
+}
+
 }  // namespace
 
 void RenderMainWindow(ScreenshotSession& session) {
@@ -49,6 +68,7 @@ void RenderMainWindow(ScreenshotSession& session) {
         window.ucTab1_Click(page);
         session.Save(window, QStringLiteral("frmMain_%1").arg(page));
     }
+    RenderShortcutWizard(session, profile);
     frmInfo about;
     about.InitDialog();
     session.Save(about, QStringLiteral("frmInfo"));

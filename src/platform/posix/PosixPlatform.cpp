@@ -75,14 +75,9 @@ int32_t OpenWithHandler(const std::string& target, const std::string& directory)
     return failure ? HelperResult(*failure) : kShellExecOk;
 }
 
-std::string FindWine() {
-    const std::string wine = platform::FindOnPath("wine");
-    return wine.empty() ? platform::FindOnPath("wine64") : wine;
-}
-
 int32_t StartThroughWine(const std::string& program, const std::string& parameters,
                          const std::string& directory) {
-    const std::string wine = FindWine();
+    const std::string wine = platform::FindWine();
     if (wine.empty())
         return kSeErrNoAssociation;
     const std::optional<LaunchFailure> failure =

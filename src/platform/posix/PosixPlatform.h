@@ -39,4 +39,13 @@ public:
 
     // A lock file held for the process's life (see RunningMarker.h for where it is and how to test it).
     bool CreateNamedMutex(const std::string& name) override;
+
+    // A freedesktop desktop entry takes a shell link's place (see DesktopEntry.h): named by the file's name
+    // without its ending, with the link's comment, its working directory as Path, and an Exec line that
+    // starts the target as ShellExec does: a Windows program through Wine, the arguments cut by the Windows
+    // rules. The file is replaced whole, made executable, and marked trusted for the desktop through `gio`
+    // when that is installed. The icon, show command and hotkey have no place in it and read back as none.
+    std::string ShellLinkEnding() override { return ".desktop"; }
+    bool WriteShellLink(const std::string& linkFile, const ShellLink& link) override;
+    std::optional<ShellLink> ReadShellLink(const std::string& linkFile) override;
 };

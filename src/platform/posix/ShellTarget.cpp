@@ -9,6 +9,7 @@
 
 #include "base/mString.h"
 #include "platform/Platform.h"
+#include "platform/posix/ProcessLauncher.h"
 
 namespace fs = std::filesystem;
 
@@ -114,6 +115,11 @@ ProgramKind ProgramKindOf(const std::string& path) {
         StartsWith(head, "#!"))
         return ProgramKind::kNative;
     return StartsWith(head, "MZ") ? ProgramKind::kWindows : ProgramKind::kUnknown;
+}
+
+std::string FindWine() {
+    const std::string wine = FindOnPath("wine");
+    return wine.empty() ? FindOnPath("wine64") : wine;
 }
 
 }  // namespace platform

@@ -39,4 +39,7 @@ enum class ProgramKind {
 // The kind of program in `path`, by its first bytes.
 ProgramKind ProgramKindOf(const std::string& path);
 
+// Wine's loader: `wine`, else `wine64`, on PATH; "" when there is neither.
+std::string FindWine();
+
 }  // namespace platform

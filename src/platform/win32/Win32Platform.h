@@ -28,4 +28,14 @@ public:
     // CreateMutexA without initial ownership. The handle stays open until the process ends, and a mutex that
     // already exists (a second copy of the launcher) is as good as a new one.
     bool CreateNamedMutex(const std::string& name) override;
+
+    std::string ShellLinkEnding() override { return ".lnk"; }
+
+    // A shell link written through the shell's link object (IShellLinkA, saved by IPersistFile): the
+    // working directory, arguments, icon and hotkey only when given, then resolved with the update flag.
+    // Any failure of the shell's calls gives false, without a message.
+    bool WriteShellLink(const std::string& linkFile, const ShellLink& link) override;
+
+    // The link loaded read-only and every field read back; nothing when it cannot be loaded.
+    std::optional<ShellLink> ReadShellLink(const std::string& linkFile) override;
 };

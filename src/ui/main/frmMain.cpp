@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "error/mError.h"
+#include "ui/Named.h"
 #include "ui/controls/TabRow.h"
 #include "ui/controls/ucPath.h"
 #include "ui/controls/ucTab.h"
@@ -28,13 +29,6 @@ constexpr int kPageLeft = 6;
 constexpr int kPageTop = 10;
 constexpr int kPageWidthLoss = 12;
 constexpr int kPageHeightLoss = 17;
-
-template <class T>
-T* Named(QWidget* parent, const QString& name) {
-    auto* widget = new T(parent);
-    widget->setObjectName(name);
-    return widget;
-}
 
 QLabel* WrappedLabel(QWidget* parent, const char* name) {
     auto* label = Named<QLabel>(parent, QString::fromLatin1(name));

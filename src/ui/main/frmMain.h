@@ -115,6 +115,7 @@ private:
     void mnuProfile_List_Click(int index);
     void mnuProfil_Manager_Click();
     void mnuEditCopy_CmdLine_Click();
+    void mnuExtra_CreateShortcut_Click();
     void mnuExtra_Options_Click();
     void mnuExtra_Accessories_LanguageEditor_Click();
     void mnuOptions_Lang_Item_Click(int index);

@@ -22,6 +22,7 @@
 #include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/frmProfiles.h"
 #include "ui/main/frmMain.h"
+#include "ui/shortcuts/frmCreateTarvolinShortcut_New.h"
 
 namespace {
 
@@ -139,6 +140,16 @@ void frmMain::mnuEditCopy_CmdLine_Click() try {
         frmMainRules::CleanText(App().ActiveProfile()->TarvolinPath() + GetCmdLineParameters()));
 } catch (...) {
     mError::ShowError("frmMain.mnuEditCopy_CmdLine_Click");
+}
+
+// The wizard gets the profile with the window's input written into it.
+void frmMain::mnuExtra_CreateShortcut_Click() try {
+    RefreshProfileData();
+    frmCreateTarvolinShortcut_New dialog(this);
+    dialog.InitDialog(*App().ActiveProfile());
+    dialog.ShowModal();
+} catch (...) {
+    mError::ShowError("frmMain.mnuExtra_CreateShortcut_Click");
 }
 
 void frmMain::mnuExtra_Options_Click() try {
@@ -264,6 +275,7 @@ void frmMain::ConnectCommands() {
         {mnuProfile_Edit, &frmMain::mnuProfile_Edit_Click},
         {mnuProfil_Manager, &frmMain::mnuProfil_Manager_Click},
         {mnuEditCopy_CmdLine, &frmMain::mnuEditCopy_CmdLine_Click},
+        {mnuExtra_CreateShortcut, &frmMain::mnuExtra_CreateShortcut_Click},
         {mnuExtra_Options, &frmMain::mnuExtra_Options_Click},
         {mnuExtra_Accessories_LanguageEditor, &frmMain::mnuExtra_Accessories_LanguageEditor_Click},
         {mnuHelp_FAQ, &frmMain::mnuHelp_FAQ_Click},

@@ -78,9 +78,8 @@ void frmMain::CreateMenus() {
     mnuEdit = menuBar()->addMenu(NewMenu(this, "mnuEdit"))->menu();
     mnuEditCopy_CmdLine = NewAction(mnuEdit, "mnuEditCopy_CmdLine");
     mnuExtra = menuBar()->addMenu(NewMenu(this, "mnuExtra"))->menu();
-    // The shortcut wizard and the update check come with their own windows; until then they do not show.
+    // The update check comes with its own window; until then it does not show.
     mnuExtra_CreateShortcut = NewAction(mnuExtra, "mnuExtra_CreateShortcut");
-    mnuExtra_CreateShortcut->setVisible(false);
     mnuOptions_Lang = NewMenu(this, "mnuOptions_Lang");
     mnuExtra->addMenu(mnuOptions_Lang);
     mnuExtra_Options = NewAction(mnuExtra, "mnuExtra_Options");

@@ -178,6 +178,13 @@ TEST_F(frmMainTest, CommandsReachTheClipboardAndTheShell) {
     ASSERT_EQ(platform.calls.size(), 2u);
     EXPECT_EQ(platform.calls[1].file + " " + platform.calls[1].parameters,
               "/usr/bin/editor " + dir.File("game/tarvo.log"));
+    // The shortcut wizard opens on the active profile with the page's input written into it first.
+    Control<QCheckBox>("ckFreeplay")->setChecked(true);
+    QString target;
+    window = [&target](QDialog& shown) { target = Find<ucPath>(shown, "txtDest")->Text(); };
+    Menu("mnuExtra_CreateShortcut")->trigger();
+    EXPECT_EQ(target, QtText::ToQt(game));
+    EXPECT_TRUE(Active().Freeplay());
 }
 
 // No closes without saving the profiles, but with the program's settings.

@@ -1,0 +1,77 @@
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "platform/FileSystem.h"
+#include "platform/NativePath.h"
+#include "platform/WindowsCommandLine.h"
+#include "platform/posix/DesktopEntry.h"
+#include "platform/posix/PosixPlatform.h"
+#include "platform/posix/ProcessLauncher.h"
+#include "platform/posix/ShellTarget.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kEnding = ".desktop";
+
+// The program and its arguments as ShellExec would start the target. Without Wine, a Windows program is
+// still written for `wine`, which the desktop finds once Wine is installed.
+std::vector<std::string> ExecOf(const ShellLink& link) {
+    std::vector<std::string> exec;
+    if (platform::ProgramKindOf(link.target) == platform::ProgramKind::kWindows) {
+        const std::string wine = platform::FindWine();
+        exec.push_back(wine.empty() ? "wine" : wine);
+    }
+    exec.push_back(link.target);
+    for (std::string& argument : SplitWindowsCommandLine(link.arguments))
+        exec.push_back(std::move(argument));
+    return exec;
+}
+
+bool IsWine(const std::string& program) {
+    const std::string name = fs::path(program).filename().string();
+    return name == "wine" || name == "wine64";
+}
+
+// Marks the entry as one the user trusts, so that a desktop starts it from the desktop folder without
+// asking; a desktop without GIO's metadata store simply does not know the mark.
+void MarkTrusted(const std::string& file) {
+    const std::string gio = platform::FindOnPath("gio");
+    if (!gio.empty())
+        platform::LaunchDetached(gio, {gio, "set", file, "metadata::trusted", "true"}, "");
+}
+
+}  // namespace
+
+bool PosixPlatform::WriteShellLink(const std::string& linkFile, const ShellLink& link) {
+    if (link.target.empty() || linkFile.empty())
+        return false;
+    std::string name = fs::path(platform::PathOf(linkFile)).filename().string();
+    if (name.ends_with(kEnding))
+        name.resize(name.size() - kEnding.size());
+    const platform::DesktopEntry entry{name, link.description, ExecOf(link), link.workingDirectory};
+    if (!platform::ReplaceFile(linkFile, platform::DesktopEntryText(entry)))
+        return false;
+    chmod(linkFile.c_str(), 0755);
+    MarkTrusted(linkFile);
+    return true;
+}
+
+std::optional<ShellLink> PosixPlatform::ReadShellLink(const std::string& linkFile) {
+    const std::optional<platform::FileContent> content = platform::ReadFile(linkFile);
+    if (!content)
+        return std::nullopt;
+    const std::optional<platform::DesktopEntry> entry = platform::ParseDesktopEntry(content->bytes);
+    if (!entry || entry->exec.empty())
+        return std::nullopt;
+    const std::size_t program = entry->exec.size() > 1 && IsWine(entry->exec[0]) ? 1 : 0;
+    ShellLink link;
+    link.target = entry->exec[program];
+    link.arguments = JoinWindowsCommandLine(
+        {entry->exec.begin() + static_cast<std::ptrdiff_t>(program) + 1, entry->exec.end()});
+    link.workingDirectory = entry->path;
+    link.description = entry->comment;
+    return link;
+}

@@ -1,0 +1,13 @@
+// A new widget under its documented name: the objectName the program's trail, its tests and its screenshots
+// know it by.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+template <class T>
+T* Named(QWidget* parent, const QString& name) {
+    auto* widget = new T(parent);
+    widget->setObjectName(name);
+    return widget;
+}

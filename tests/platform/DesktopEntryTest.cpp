@@ -1,0 +1,121 @@
+// Desktop entries in a shell link's place, checked by the desktop's own tools: every written entry passes
+// desktop-file-validate and reads back as written, and GLib starts the game from it exactly as the
+// launcher's own Start does.
+#include "platform/posix/DesktopEntry.h"
+
+#include <sys/stat.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "platform/ChildProcessTest.h"
+#include "platform/WindowsCommandLine.h"
+#include "support/StandInGame.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A command's exit status and what it printed.
+std::pair<int, std::string> RunCommand(const std::string& command) {
+    std::string output;
+    FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+    if (pipe == nullptr)
+        return {-1, "cannot run " + command};
+    char buffer[512];
+    while (fgets(buffer, sizeof buffer, pipe) != nullptr)
+        output += buffer;
+    return {pclose(pipe), output};
+}
+
+std::string TextOf(const std::string& file) {
+    std::ifstream in(file, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+std::string Quoted(const std::string& path) {
+    std::string text = "'";
+    for (const char c : path)
+        text += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return text + "'";
+}
+
+class DesktopEntryTest : public ChildProcessTest {
+protected:
+    ShellLink Link(const std::string& target, const std::string& arguments) const {
+        return {target, arguments, fs::path(target).parent_path().string() + "/", "ShellLink Sample", "", 0,
+                5,      0};
+    }
+};
+
+TEST_F(DesktopEntryTest, EveryArgumentSurvivesTheQuotingAndTheEntryValidates) {
+    const std::string longFolder = "long/" + std::string(254 - m_dir.File("long//tarvolin.exe").size(), 'L');
+    const std::pair<std::string, std::string> cases[] = {
+        {"Spiele/Tarvolin", "-scenario \"scenarios/grand tour\" -log"},
+        {"quotes", R"(say "\"hi\"" it's 'single')"},
+        {"shell", "100% $HOME `date` a;b a=b a|b <in> ~ * ? # (x)"},
+        {"back\\slash", R"(C:\Games\ "C:\Program Files\\" end\)"},
+        {"Größe Überführung 旅", "Straße \"\" -empty-before"},
+        {longFolder, "-freeplay"},
+    };
+    for (const auto& [folder, arguments] : cases) {
+        SCOPED_TRACE(folder);
+        const std::string target = m_dir.File(folder + "/tarvolin.exe");
+        const std::string file = m_dir.File("links/" + fs::path(folder).filename().string() + ".desktop");
+        fs::create_directories(fs::path(file).parent_path());
+        ASSERT_TRUE(m_platform.WriteShellLink(file, Link(target, arguments)));
+
+        const auto [status, output] = RunCommand("desktop-file-validate " + Quoted(file));
+        EXPECT_EQ(status, 0) << output << TextOf(file);
+        struct stat info {};
+        ASSERT_EQ(stat(file.c_str(), &info), 0);
+        EXPECT_EQ(info.st_mode & 0777, 0755u);
+        const std::optional<ShellLink> read = m_platform.ReadShellLink(file);
+        ASSERT_TRUE(read);
+        EXPECT_EQ(read->target, target);
+        EXPECT_EQ(SplitWindowsCommandLine(read->arguments), SplitWindowsCommandLine(arguments));
+        EXPECT_EQ(read->workingDirectory, Link(target, arguments).workingDirectory);
+        EXPECT_EQ(read->description, "ShellLink Sample");
+    }
+}
+
+// A Windows program is started through Wine, as the launcher starts it; the entry still names the program.
+TEST_F(DesktopEntryTest, AWindowsProgramStartsThroughWine) {
+    const std::string wine = WriteExecutable("bin/wine", "#!/bin/sh\n");
+    m_environment.Set("PATH", m_dir.File("bin"));
+    const std::string game = m_dir.File("game/tarvolin.exe");
+    fs::create_directories(m_dir.Path() / "game");
+    std::ofstream(game) << "MZ";
+    const std::string file = m_dir.File("Game.desktop");
+    ASSERT_TRUE(m_platform.WriteShellLink(file, Link(game, "-log")));
+    EXPECT_EQ(platform::ParseDesktopEntry(TextOf(file))->exec,
+              (std::vector<std::string>{wine, game, "-log"}));
+    EXPECT_EQ(m_platform.ReadShellLink(file)->target, game);
+    EXPECT_FALSE(m_platform.ReadShellLink(m_dir.File("missing.desktop")));
+    std::ofstream(m_dir.File("other.desktop")) << "[Other Group]\nExec=x\n";
+    EXPECT_FALSE(m_platform.ReadShellLink(m_dir.File("other.desktop")));
+}
+
+// GLib's own launch of the entry gives the stand-in what the launcher's Start gives it.
+TEST_F(DesktopEntryTest, GioStartsTheGameAsTheLauncherDoes) {
+    const StandInGame game(m_dir.Path() / "Spiele" / "Tarvolin Größe");
+    const std::string arguments = "-log -scenario \"scenarios/grand tour\" 50%";
+    const ShellLink link = Link(game.Path(), arguments);
+    ASSERT_EQ(Open(game.Path(), arguments, link.workingDirectory), kShellExecOk);
+    const std::optional<LaunchRecord> launched = game.WaitForRecord();
+    ASSERT_TRUE(launched);
+    game.ForgetRecord();
+
+    const std::string file = m_dir.File("Tarvolin.desktop");
+    ASSERT_TRUE(m_platform.WriteShellLink(file, link));
+    const auto [status, output] = RunCommand("gio launch " + Quoted(file));
+    ASSERT_EQ(status, 0) << output;
+    EXPECT_EQ(game.WaitForRecord(), launched);
+}
+
+}  // namespace
