@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -103,6 +104,21 @@ TEST_F(frmCreateTarvolinShortcut_NewTest, WalksThePagesAndCreatesTheShortcut) {
     QTest::mouseClick(Control("cmdCancel"), Qt::LeftButton);
     EXPECT_FALSE(owned->isVisible());
     EXPECT_TRUE(owned->Cancel());
+}
+
+// Return presses Next, Alt and a button's letter presses it, and every page starts the keyboard on its
+// first field.
+TEST_F(frmCreateTarvolinShortcut_NewTest, TheKeyboardWalksTheWizard) {
+    QApplication::setActiveWindow(owned.get());
+    QTest::keyClick(owned.get(), Qt::Key_Return);
+    EXPECT_EQ(Page(), 2);
+    EXPECT_TRUE(Control("opMode_0")->hasFocus());
+    // A button's letter presses it the way a click does, a moment later.
+    QTest::keyClick(owned.get(), Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Page() == 1; }, 1000));
+    EXPECT_TRUE(Control("txtDest")->isAncestorOf(QApplication::focusWidget()));
+    QTest::keyClick(owned.get(), Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Page() == 2; }, 1000));
 }
 
 // Leaving a page checks it, backwards too, with the documented message and box style; the page stays.
