@@ -9,7 +9,6 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
-#include "shortcuts/cShellLink.h"
 #include "shortcuts/mGetSpecialfolder.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
@@ -54,15 +53,6 @@ TEST_F(cCreateShortcutTest, WritesEveryFieldIntoFoldersMadeOnTheWay) {
               (ShellLink{game, "-log -res 2", Native("/games/Tarvolin/"), "ShellLink Sample", "", 0, 5, 0}));
     ASSERT_FALSE(Create(folder, "Plain", "tarvolin.exe"));
     EXPECT_EQ(platform.links[folder + Native("/Plain.lnk")].workingDirectory, "");
-
-    std::string target, directory, arguments, description, icon;
-    int32_t hotkey = -1, iconIndex = -1, show = -1;
-    ASSERT_TRUE(cShellLink().GetShellLinkInfo(link, target, directory, arguments, description, hotkey, icon,
-                                              iconIndex, show));
-    EXPECT_EQ(target + "|" + arguments + "|" + description, game + "|-log -res 2|ShellLink Sample");
-    EXPECT_EQ(show, 5);
-    EXPECT_FALSE(cShellLink().GetShellLinkInfo(link + ".gone", target, directory, arguments, description,
-                                               hotkey, icon, iconIndex, show));
 }
 
 // An existing link is replaced only when the user says so; No writes nothing and fails like every other
