@@ -6,6 +6,7 @@ class ScreenshotSession;
 namespace Scenes {
 
 void RenderDialogs(ScreenshotSession& session);
+void RenderUpdate(ScreenshotSession& session);
 void RenderControls(ScreenshotSession& session);
 // Needs the sample profiles of RenderDialogs.
 void RenderMainWindow(ScreenshotSession& session);

@@ -74,6 +74,7 @@ void RenderLanguage(ScreenshotSession& session, const char* abbrev) {
     g_cApp->Options().SetLanguage(language);
     session.SetLanguage(QString::fromLatin1(abbrev));
     Scenes::RenderDialogs(session);
+    Scenes::RenderUpdate(session);
     Scenes::RenderMainWindow(session);
     Scenes::RenderControls(session);
 }

@@ -117,6 +117,7 @@ private:
     void mnuEditCopy_CmdLine_Click();
     void mnuExtra_CreateShortcut_Click();
     void mnuExtra_Options_Click();
+    void mnuExtra_Update_Click();
     void mnuExtra_Accessories_LanguageEditor_Click();
     void mnuOptions_Lang_Item_Click(int index);
     void mnuHelp_FAQ_Click();

@@ -21,6 +21,7 @@
 #include "ui/dialogs/frmInfo.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/frmProfiles.h"
+#include "ui/dialogs/frmUpdate.h"
 #include "ui/main/frmMain.h"
 #include "ui/shortcuts/frmCreateTarvolinShortcut_New.h"
 
@@ -152,6 +153,14 @@ void frmMain::mnuExtra_CreateShortcut_Click() try {
     mError::ShowError("frmMain.mnuExtra_CreateShortcut_Click");
 }
 
+void frmMain::mnuExtra_Update_Click() try {
+    frmUpdate dialog(this);
+    dialog.InitDialog();
+    dialog.ShowModal();
+} catch (...) {
+    mError::ShowError("frmMain.mnuExtra_Update_Click");
+}
+
 void frmMain::mnuExtra_Options_Click() try {
     frmOptions dialog(this);
     dialog.InitDialog();
@@ -277,6 +286,7 @@ void frmMain::ConnectCommands() {
         {mnuEditCopy_CmdLine, &frmMain::mnuEditCopy_CmdLine_Click},
         {mnuExtra_CreateShortcut, &frmMain::mnuExtra_CreateShortcut_Click},
         {mnuExtra_Options, &frmMain::mnuExtra_Options_Click},
+        {mnuExtra_Update, &frmMain::mnuExtra_Update_Click},
         {mnuExtra_Accessories_LanguageEditor, &frmMain::mnuExtra_Accessories_LanguageEditor_Click},
         {mnuHelp_FAQ, &frmMain::mnuHelp_FAQ_Click},
         {mnuHelp_FAQ_EN, &frmMain::mnuHelp_FAQ_EN_Click},

@@ -78,13 +78,11 @@ void frmMain::CreateMenus() {
     mnuEdit = menuBar()->addMenu(NewMenu(this, "mnuEdit"))->menu();
     mnuEditCopy_CmdLine = NewAction(mnuEdit, "mnuEditCopy_CmdLine");
     mnuExtra = menuBar()->addMenu(NewMenu(this, "mnuExtra"))->menu();
-    // The update check comes with its own window; until then it does not show.
     mnuExtra_CreateShortcut = NewAction(mnuExtra, "mnuExtra_CreateShortcut");
     mnuOptions_Lang = NewMenu(this, "mnuOptions_Lang");
     mnuExtra->addMenu(mnuOptions_Lang);
     mnuExtra_Options = NewAction(mnuExtra, "mnuExtra_Options");
     mnuExtra_Update = NewAction(mnuExtra, "mnuExtra_Update");
-    mnuExtra_Update->setVisible(false);
     mnuExtra_BarAfterAccessoriesMenu = mnuExtra->addSeparator();
     mnuExtra_Accessories = NewMenu(this, "mnuExtra_Accessories");
     mnuExtra->addMenu(mnuExtra_Accessories);

@@ -185,6 +185,9 @@ TEST_F(frmMainTest, CommandsReachTheClipboardAndTheShell) {
     Menu("mnuExtra_CreateShortcut")->trigger();
     EXPECT_EQ(target, QtText::ToQt(game));
     EXPECT_TRUE(Active().Freeplay());
+    window = [&target](QDialog& shown) { target = shown.objectName(); };
+    Menu("mnuExtra_Update")->trigger();
+    EXPECT_EQ(target, "frmUpdate");
 }
 
 // No closes without saving the profiles, but with the program's settings.

@@ -1,0 +1,68 @@
+// The download of one small text file from the web, never from a cache, through the system's proxy
+// settings, as "Pavonel Internet Update". A reply counts only with HTTP status 200, complete, and within
+// the limits: the whole download ends after `timeout` (also when data keeps trickling in), a reply longer
+// than `maxBytes` is a failure rather than a cut text, and redirects are followed only on the address's own
+// host, at most `maxRedirects` of them. It runs on the event loop, so the window that started it stays
+// responsive, and it can be cancelled.
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QTimer>
+#include <QUrl>
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+class QNetworkAccessManager;
+class QNetworkReply;
+
+namespace mInternet {
+
+inline constexpr const char* kAgent = "Pavonel Internet Update";
+// The failures' descriptions: no download could be started for the address at all, and everything that
+// went wrong once it had started.
+inline constexpr const char* kNoInternet = "No internet";
+inline constexpr const char* kNotFound = "No internet connection or website not found";
+
+struct Limits {
+    std::chrono::milliseconds timeout{10000};
+    qint64 maxBytes = 64 * 1024;
+    int maxRedirects = 5;
+};
+
+class Download : public QObject {
+    Q_OBJECT
+
+public:
+    // Starts at once; `accessType` 0 is the system's own settings, the only kind there is.
+    Download(const std::string& address, int32_t accessType, Limits limits = {}, QObject* parent = nullptr);
+    ~Download() override;
+
+    // Ends the download without a signal.
+    void Cancel();
+
+signals:
+    void Finished(const QByteArray& body);
+    // `description` is kNoInternet or kNotFound; `detail` says what happened, for the user.
+    void Failed(const QString& description, const QString& detail);
+
+private:
+    void Get(const QUrl& address);
+    void Fail(const QString& detail);
+    void Redirected(const QUrl& target);
+    void CheckSize();
+    void Done();
+
+    Limits m_limits;
+    QUrl m_address;
+    QNetworkAccessManager* m_network = nullptr;
+    QPointer<QNetworkReply> m_reply;
+    QTimer m_deadline;
+    bool m_over = false;  // finished, failed or cancelled: nothing more is told
+    int m_redirects = 0;
+};
+
+}  // namespace mInternet
