@@ -14,6 +14,8 @@ void ChildProcessTest::SetUp() {
     prctl(PR_SET_CHILD_SUBREAPER, 1);
     m_savedCurrent = fs::current_path();
     fs::current_path(m_dir.Path());
+    // Wine only where a test puts it on PATH, also on a machine that has Debian's own.
+    m_platform.SetWineCandidates({"wine", "wine64"});
 }
 
 void ChildProcessTest::TearDown() {

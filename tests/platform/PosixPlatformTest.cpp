@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "platform/ChildProcessTest.h"
+#include "platform/posix/ShellTarget.h"
 #include "support/StandInGame.h"
 #include "support/TempDir.h"
 
@@ -100,6 +101,17 @@ TEST_F(PosixPlatformTest, AWindowsProgramIsStartedThroughWineElseWine64) {
         EXPECT_EQ(record->directory, fs::canonical(folder));
         fs::remove(wine.Path());
     }
+}
+
+// A name is looked for on PATH, a path taken as it is, in the list's order.
+TEST_F(PosixPlatformTest, WineIsTheFirstCandidateThatExists) {
+    const std::string debian = WriteExecutable("lib/wine/wine64", "#!/bin/sh\n");
+    const std::string onPath = WriteExecutable("bin/wine64", "#!/bin/sh\n");
+    m_environment.Set("PATH", m_dir.File("bin"));
+    EXPECT_EQ(platform::FindWine({"wine", "wine64", debian}), onPath);
+    EXPECT_EQ(platform::FindWine({"wine", debian, "wine64"}), debian);
+    EXPECT_EQ(platform::FindWine({"wine", m_dir.File("lib/wine/missing")}), "");
+    EXPECT_EQ(platform::FindWine({}), "");
 }
 
 TEST_F(PosixPlatformTest, DocumentsFoldersAndAddressesGoToTheDesktopHandler) {

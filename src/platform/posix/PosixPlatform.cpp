@@ -76,8 +76,8 @@ int32_t OpenWithHandler(const std::string& target, const std::string& directory)
 }
 
 int32_t StartThroughWine(const std::string& program, const std::string& parameters,
-                         const std::string& directory) {
-    const std::string wine = platform::FindWine();
+                         const std::string& directory, const std::vector<std::string>& wines) {
+    const std::string wine = platform::FindWine(wines);
     if (wine.empty())
         return kSeErrNoAssociation;
     const std::optional<LaunchFailure> failure =
@@ -87,10 +87,10 @@ int32_t StartThroughWine(const std::string& program, const std::string& paramete
 
 // A ".exe" is a program by its name alone, as on Windows; its first bytes tell how it can be started here.
 int32_t StartNamedProgram(const std::string& program, const std::string& parameters,
-                          const std::string& directory) {
+                          const std::string& directory, const std::vector<std::string>& wines) {
     switch (platform::ProgramKindOf(program)) {
         case ProgramKind::kWindows:
-            return StartThroughWine(program, parameters, directory);
+            return StartThroughWine(program, parameters, directory, wines);
         case ProgramKind::kNative:
             return platform::HasExecuteBit(program) ? StartProgram(program, parameters, directory)
                                                     : kSeErrAccessDenied;
@@ -126,7 +126,7 @@ int32_t PosixPlatform::ShellExec(int64_t /*owner*/, const std::string& verb, con
     if (target.empty())
         return platform::MissingFileResult(file, directory);
     if (platform::HasProgramName(target))
-        return StartNamedProgram(target, parameters, directory);
+        return StartNamedProgram(target, parameters, directory, m_wineCandidates);
     if (platform::HasExecuteBit(target))
         return StartProgram(target, parameters, directory);
     return OpenWithHandler(target, directory);

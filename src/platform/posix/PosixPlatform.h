@@ -3,7 +3,10 @@
 // executable directly as a detached process, and by starting a Windows ".exe" through Wine.
 #pragma once
 
+#include <vector>
+
 #include "platform/Platform.h"
+#include "platform/posix/ShellTarget.h"
 
 namespace platform {
 
@@ -46,6 +49,11 @@ public:
     // rules. The file is replaced whole, made executable, and marked trusted for the desktop through `gio`
     // when that is installed. The icon, show command and hotkey have no place in it and read back as none.
     std::string ShellLinkEnding() override { return ".desktop"; }
+    // Where Wine is looked for (kWineCandidates unless a test says otherwise).
+    void SetWineCandidates(std::vector<std::string> candidates) { m_wineCandidates = std::move(candidates); }
     bool WriteShellLink(const std::string& linkFile, const ShellLink& link) override;
     std::optional<ShellLink> ReadShellLink(const std::string& linkFile) override;
+
+private:
+    std::vector<std::string> m_wineCandidates = platform::kWineCandidates;
 };

@@ -18,10 +18,10 @@ constexpr std::string_view kEnding = ".desktop";
 
 // The program and its arguments as ShellExec would start the target. Without Wine, a Windows program is
 // still written for `wine`, which the desktop finds once Wine is installed.
-std::vector<std::string> ExecOf(const ShellLink& link) {
+std::vector<std::string> ExecOf(const ShellLink& link, const std::vector<std::string>& wines) {
     std::vector<std::string> exec;
     if (platform::ProgramKindOf(link.target) == platform::ProgramKind::kWindows) {
-        const std::string wine = platform::FindWine();
+        const std::string wine = platform::FindWine(wines);
         exec.push_back(wine.empty() ? "wine" : wine);
     }
     exec.push_back(link.target);
@@ -51,7 +51,8 @@ bool PosixPlatform::WriteShellLink(const std::string& linkFile, const ShellLink&
     std::string name = fs::path(platform::PathOf(linkFile)).filename().string();
     if (name.ends_with(kEnding))
         name.resize(name.size() - kEnding.size());
-    const platform::DesktopEntry entry{name, link.description, ExecOf(link), link.workingDirectory};
+    const platform::DesktopEntry entry{name, link.description, ExecOf(link, m_wineCandidates),
+                                       link.workingDirectory};
     if (!platform::ReplaceFile(linkFile, platform::DesktopEntryText(entry)))
         return false;
     chmod(linkFile.c_str(), 0755);

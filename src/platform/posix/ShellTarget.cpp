@@ -117,9 +117,13 @@ ProgramKind ProgramKindOf(const std::string& path) {
     return StartsWith(head, "MZ") ? ProgramKind::kWindows : ProgramKind::kUnknown;
 }
 
-std::string FindWine() {
-    const std::string wine = FindOnPath("wine");
-    return wine.empty() ? FindOnPath("wine64") : wine;
+// An absolute candidate replaces every folder of PATH, so FindOnPath takes it as it is.
+std::string FindWine(const std::vector<std::string>& candidates) {
+    for (const std::string& candidate : candidates) {
+        if (std::string found = FindOnPath(candidate); !found.empty())
+            return found;
+    }
+    return {};
 }
 
 }  // namespace platform

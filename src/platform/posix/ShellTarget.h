@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace platform {
 
@@ -39,7 +40,11 @@ enum class ProgramKind {
 // The kind of program in `path`, by its first bytes.
 ProgramKind ProgramKindOf(const std::string& path);
 
-// Wine's loader: `wine`, else `wine64`, on PATH; "" when there is neither.
-std::string FindWine();
+// Where Wine's loader is looked for, in this order: a name on PATH, a path as it is. Debian's wine64
+// package alone puts no command on PATH, so its loader is looked for where Debian keeps it.
+inline const std::vector<std::string> kWineCandidates = {"wine", "wine64", "/usr/lib/wine/wine64"};
+
+// The first of `candidates` that is an executable file; "" when there is none.
+std::string FindWine(const std::vector<std::string>& candidates);
 
 }  // namespace platform
