@@ -1,10 +1,14 @@
 #include "app/Application.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include "Version.h"
 #include "app/PublicObjects.h"
 #include "app/UserInterface.h"
 #include "app/mPath.h"
 #include "error/mError.h"
+#include "platform/NativePath.h"
 #include "platform/Platform.h"
 #include "storage/mIni.h"
 #include "translate/cTranslate.h"
@@ -12,8 +16,12 @@
 namespace {
 
 // The companions find the settings file through the program-wide application object, whichever it is now.
-std::optional<std::string_view> ProgramSettingsPath() {
-    return g_cApp ? std::optional<std::string_view>(g_cApp->IniPath()) : std::nullopt;
+std::optional<std::string_view> ProgramSettingsPath(bool forWriting) {
+    if (!g_cApp)
+        return std::nullopt;
+    if (forWriting)
+        g_cApp->MakeSettingsFolder();
+    return std::optional<std::string_view>(g_cApp->IniPath());
 }
 
 }  // namespace
@@ -82,13 +90,24 @@ void Application::SaveDataEx(const std::string& strProfiles) try {
     mError::PassOn("Application.SaveDataEx");
 }
 
+// The settings folder of an installed program is made at its first save; the program's own folder is there
+// anyway. A folder that cannot be made leaves the save a no-op, as a read-only file does.
+void Application::MakeSettingsFolder() {
+    if (m_settingsFolderChecked)
+        return;
+    m_settingsFolderChecked = true;
+    std::error_code ignored;
+    std::filesystem::create_directories(platform::PathOf(mPath::GetDirectoryPart(m_iniPath)), ignored);
+}
+
 void Application::ComputeDirectories() {
     char separator = mPath::Separator();
     m_workDirectory = mPath::AddOrRemoveBackslash(Os().ProgramDirectory(), true);
-    m_iniPath = m_workDirectory + "Pavonel.ini";
-    m_languageDirectory = m_workDirectory + "config" + separator;
-    m_docDirectory = m_workDirectory + "doc" + separator;
-    m_toolsDirectory = m_workDirectory + "tools" + separator;
+    m_iniPath = mPath::AddOrRemoveBackslash(Os().SettingsDirectory(), true) + "Pavonel.ini";
+    const std::string data = mPath::AddOrRemoveBackslash(Os().DataDirectory(), true);
+    m_languageDirectory = data + "config" + separator;
+    m_docDirectory = data + "doc" + separator;
+    m_toolsDirectory = data + "tools" + separator;
 }
 
 std::string Application::AppVersionText() {

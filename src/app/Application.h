@@ -27,6 +27,8 @@ public:
     void SetActiveProfile(Profile* profile);
 
     const std::string& IniPath() const { return m_iniPath; }
+    // Makes the settings file's folder when it is missing (once).
+    void MakeSettingsFolder();
     const std::string& GetWorkDirectory() const { return m_workDirectory; }
     const std::string& GetLanguageDirectory() const { return m_languageDirectory; }
     const std::string& GetDocDirectory() const { return m_docDirectory; }
@@ -86,6 +88,7 @@ private:
     Profile* m_activeProfile = nullptr;
     std::unique_ptr<cIni_Application> m_settings;
     std::string m_iniPath;
+    bool m_settingsFolderChecked = false;
     std::string m_languageDirectory;
     std::string m_workDirectory;
     std::string m_docDirectory;

@@ -37,6 +37,16 @@ public:
     // (unless it is the root).
     virtual std::string ProgramDirectory() = 0;
 
+    // Where the settings file lives: the program's folder, unless the platform keeps the settings of a
+    // program whose folder nobody may write elsewhere (Linux: $XDG_CONFIG_HOME/Pavonel). Without a trailing
+    // separator.
+    virtual std::string SettingsDirectory() { return ProgramDirectory(); }
+
+    // The folder that holds the language files ("config"), the FAQ ("doc") and the tools: the program's
+    // folder, or the data folder of an installed program's layout (Linux: <prefix>/share/pavonel beside
+    // <prefix>/bin). Without a trailing separator.
+    virtual std::string DataDirectory() { return ProgramDirectory(); }
+
     // Asks the shell to perform `verb` ("open") on `file`: an executable is started with `parameters` in
     // `directory`; a document, folder, web or mail address opens in its handler. `owner` is the calling
     // window's handle (0 for none). Returns a value above 32 on success.

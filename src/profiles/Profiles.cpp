@@ -123,7 +123,7 @@ Profile* Profiles::ShowAddNewDialog() try {
 
 void Profiles::LoadData() try {
     iniFile::Load load = m_settings.BeginLoad();
-    const std::string path = mPath::AddOrRemoveBackslash(Os().ProgramDirectory(), true) + "Pavonel.ini";
+    const std::string& path = App().IniPath();
     if (mPath::FileExists(path)) {
         // A file that cannot be read is treated like a missing one: its profiles cannot be shown anyway.
         if (std::optional<platform::FileContent> content = platform::ReadFile(path)) {

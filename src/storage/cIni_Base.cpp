@@ -19,8 +19,8 @@ void cIni_Base::InstallPathSource(PathSource source) noexcept {
 cIni_Base::cIni_Base(std::string module, std::string section)
     : m_module(std::move(module)), m_section(std::move(section)) {}
 
-std::optional<std::string_view> cIni_Base::IniPath() {
-    return g_pathSource != nullptr ? g_pathSource() : std::nullopt;
+std::optional<std::string_view> cIni_Base::IniPath(bool forWriting) {
+    return g_pathSource != nullptr ? g_pathSource(forWriting) : std::nullopt;
 }
 
 std::string cIni_Base::ReadFromIni(std::string_view key, std::string_view defaultValue) const try {
@@ -30,7 +30,7 @@ std::string cIni_Base::ReadFromIni(std::string_view key, std::string_view defaul
 }
 
 void cIni_Base::WriteToIni(std::string_view key, std::string_view value) const try {
-    mIni::WriteToIni(IniPath(), m_section, key, value);
+    mIni::WriteToIni(IniPath(true), m_section, key, value);
 } catch (...) {
     mError::PassOn(Procedure("WriteToIni"));
 }
@@ -42,7 +42,7 @@ bool cIni_Base::ReadBoolFromIni(std::string_view key, bool defaultValue) const t
 }
 
 void cIni_Base::WriteBoolToIni(std::string_view key, bool value) const try {
-    mIni::WriteBoolToIni(IniPath(), m_section, key, value);
+    mIni::WriteBoolToIni(IniPath(true), m_section, key, value);
 } catch (...) {
     mError::PassOn(Procedure("WriteBoolToIni"));
 }
@@ -54,7 +54,7 @@ std::string cIni_Base::ReadIntegerFromIni(std::string_view key, int16_t defaultV
 }
 
 void cIni_Base::WriteIntegerToIni(std::string_view key, int16_t value) const try {
-    mIni::WriteToIni(IniPath(), m_section, key, std::to_string(value));
+    mIni::WriteToIni(IniPath(true), m_section, key, std::to_string(value));
 } catch (...) {
     mError::PassOn(Procedure("WriteIntegerToIni"));
 }
@@ -94,7 +94,7 @@ void cIni_Base::Write(const IniKey<int16_t>& key, int16_t value, const char* pro
 }
 
 iniFile::Update cIni_Base::BeginSave() const {
-    return iniFile::Update(std::string(IniPath().value_or(std::string_view())));
+    return iniFile::Update(std::string(IniPath(true).value_or(std::string_view())));
 }
 
 iniFile::Load cIni_Base::BeginLoad() const {

@@ -21,7 +21,8 @@ class cIni_Base {
 public:
     // Where the settings file is: the application installs a source that names its file, or nothing while
     // there is no application. An absent path is refused as "Invalid value", as every absent argument is.
-    using PathSource = std::optional<std::string_view> (*)();
+    // Asked before a write with `forWriting` set, the source makes the file's folder when it is missing.
+    using PathSource = std::optional<std::string_view> (*)(bool forWriting);
     static void InstallPathSource(PathSource source) noexcept;
 
     std::string ReadFromIni(std::string_view key, std::string_view defaultValue) const;
@@ -62,7 +63,7 @@ private:
     auto Traced(const char* procedure, Body&& body) const -> decltype(body());
 
     // The settings file the installed source names; absent when there is none.
-    static std::optional<std::string_view> IniPath();
+    static std::optional<std::string_view> IniPath(bool forWriting = false);
 
     std::string m_module;
     std::string m_section;

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <memory>
+
 #include "Version.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
@@ -27,6 +30,22 @@ TEST_F(ApplicationTest, ProgramFolderWithTrailingSeparatorIsNotDoubled) {
     EXPECT_EQ(app.GetWorkDirectory(), Native("/"));
     EXPECT_EQ(app.IniPath(), Native("/Pavonel.ini"));
     InstallPlatform(&platform);
+}
+
+// An installed program: the texts come from the layout's data folder, the settings from the user's own
+// folder, which is made at the first save and not before.
+TEST_F(ApplicationTest, AnInstalledProgramKeepsItsSettingsInTheUsersFolder) {
+    platform.settingsDirectory = dir.File("home/.config/Pavonel");
+    platform.dataDirectory = dir.File("share/pavonel");
+    g_cApp = std::make_unique<Application>();
+    EXPECT_EQ(g_cApp->IniPath(), dir.File("home/.config/Pavonel/Pavonel.ini"));
+    EXPECT_EQ(g_cApp->GetLanguageDirectory(), dir.File("share/pavonel/config/"));
+    EXPECT_EQ(g_cApp->GetDocDirectory(), dir.File("share/pavonel/doc/"));
+    ASSERT_TRUE(g_cApp->LoadData());
+    EXPECT_FALSE(std::filesystem::exists(dir.Path() / "home"));
+    g_cApp->SaveAppSettings();
+    EXPECT_NE(dir.Read("home/.config/Pavonel/Pavonel.ini").find("FILEVERSION=1.1"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(dir.Path() / "Pavonel.ini"));
 }
 
 TEST_F(ApplicationTest, LanguageAndFaqFileNames) {

@@ -89,4 +89,31 @@ TEST(SpecialFolderTest, WithoutAUsableHomeTheAccountsHomeFolderIsUsed) {
     }
 }
 
+// A program folder nobody may write keeps the settings in the user's config folder; a program in a "bin"
+// folder beside share/pavonel takes its texts from there.
+TEST(SpecialFolderTest, AnInstalledProgramHasItsSettingsAndDataInTheirOwnFolders) {
+    class At : public PosixPlatform {
+    public:
+        explicit At(std::string folder) : m_folder(std::move(folder)) {}
+        std::string ProgramDirectory() override { return m_folder; }
+
+    private:
+        std::string m_folder;
+    };
+    const TempDir dir;
+    ScopedEnvironment environment;
+    environment.Set("XDG_CONFIG_HOME", dir.File("config"));
+    fs::create_directories(dir.Path() / "usr" / "bin");
+    At installed(dir.File("usr/bin"));
+    EXPECT_EQ(installed.SettingsDirectory(), dir.File("usr/bin"));
+    EXPECT_EQ(installed.DataDirectory(), dir.File("usr/bin"));
+    fs::create_directories(dir.Path() / "usr" / "share" / "pavonel");
+    fs::permissions(dir.Path() / "usr" / "bin",
+                    fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
+                    fs::perm_options::remove);
+    EXPECT_EQ(installed.SettingsDirectory(), dir.File("config/Pavonel"));
+    EXPECT_EQ(installed.DataDirectory(), dir.File("usr/share/pavonel"));
+    fs::permissions(dir.Path() / "usr" / "bin", fs::perms::owner_write, fs::perm_options::add);
+}
+
 }  // namespace

@@ -23,6 +23,12 @@ public:
     explicit FakePlatform(std::string programDirectory) : m_programDirectory(std::move(programDirectory)) {}
 
     std::string ProgramDirectory() override { return m_programDirectory; }
+    std::string SettingsDirectory() override {
+        return settingsDirectory.empty() ? m_programDirectory : settingsDirectory;
+    }
+    std::string DataDirectory() override {
+        return dataDirectory.empty() ? m_programDirectory : dataDirectory;
+    }
     int32_t ShellExec(int64_t owner, const std::string& verb, const std::string& file,
                       const std::string& parameters, const std::string& directory,
                       int32_t showCommand) override;
@@ -43,6 +49,8 @@ public:
     std::string windowsDirectory = "/usr/bin";
     std::vector<std::string> mutexes;
     std::string linkEnding = ".lnk";
+    std::string settingsDirectory;           // "" for the program's folder
+    std::string dataDirectory;               // "" for the program's folder
     std::map<std::string, ShellLink> links;  // by link file, in the order of their names
     bool linksFail = false;
 

@@ -1,5 +1,6 @@
 #include "platform/posix/PosixPlatform.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -111,6 +112,28 @@ std::string PosixPlatform::ProgramDirectory() {
         return executable.parent_path().string();
     const fs::path current = fs::current_path(error);
     return error ? std::string(".") : current.string();
+}
+
+// Permission bits count for the superuser too, as they do for the settings file itself.
+std::string PosixPlatform::SettingsDirectory() {
+    const std::string program = ProgramDirectory();
+    struct stat info {};
+    const bool writable = stat(program.c_str(), &info) == 0 &&
+                          (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0 &&
+                          access(program.c_str(), W_OK) == 0;
+    const std::string config = platform::XdgConfigHome();
+    return writable || config.empty() ? program : config + "/Pavonel";
+}
+
+std::string PosixPlatform::DataDirectory() {
+    const fs::path program = ProgramDirectory();
+    if (program.filename() == "bin") {
+        const fs::path data = program.parent_path() / "share" / "pavonel";
+        std::error_code error;
+        if (fs::is_directory(data, error))
+            return data.string();
+    }
+    return program.string();
 }
 
 int32_t PosixPlatform::ShellExec(int64_t /*owner*/, const std::string& verb, const std::string& file,

@@ -19,6 +19,13 @@ class PosixPlatform : public Platform {
 public:
     std::string ProgramDirectory() override;
 
+    // The program's folder while it may be written (a build tree, a portable copy), else
+    // $XDG_CONFIG_HOME/Pavonel (~/.config/Pavonel), whether or not that exists yet.
+    std::string SettingsDirectory() override;
+    // <prefix>/share/pavonel when the program runs from <prefix>/bin and that folder exists, else the
+    // program's folder.
+    std::string DataDirectory() override;
+
     // `owner` and `showCommand` have no counterpart here: a started program has no owner window, and how
     // its first window appears is the window manager's decision. Returns kShellExecOk once the program is
     // running, else the Windows shell error code that describes why it could not be started:

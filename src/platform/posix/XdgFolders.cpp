@@ -99,12 +99,12 @@ std::string DesktopDirectoryFromUserDirs(const std::string& text, const std::str
     return desktop;
 }
 
+}  // namespace
+
 std::string XdgConfigHome() {
     const std::string config = AbsoluteVariable("XDG_CONFIG_HOME");
     return config.empty() ? UnderHome(".config") : WithoutTrailingSlash(config);
 }
-
-}  // namespace
 
 std::string XdgDataHome() {
     const std::string data = AbsoluteVariable("XDG_DATA_HOME");

@@ -9,6 +9,9 @@
 
 namespace platform {
 
+// $XDG_CONFIG_HOME, default ~/.config.
+std::string XdgConfigHome();
+
 // $XDG_DATA_HOME, default ~/.local/share.
 std::string XdgDataHome();
 
