@@ -33,14 +33,18 @@ pavonel_build() {
     [ "${PIPESTATUS[0]}" -eq 0 ]
 }
 
-PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev fonts-dejavu-core)
+PAVONEL_BUILD_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev qt6-base-dev fonts-dejavu-core
+    librsvg2-bin)
 # What the launcher itself needs at run time on Linux: xdg-open opens folders, documents and web pages, and is
 # the text editor proposed when no desktop editor is installed; Qt's translations give its own texts (the
 # file chooser's buttons) in the chosen language.
 PAVONEL_RUN_PACKAGES=(xdg-utils qt6-translations-l10n)
 # Without a display, scripts/run starts the launcher on a virtual X display and serves it over VNC.
 PAVONEL_HEADLESS_PACKAGES=(xvfb x11vnc)
-# The tests validate written desktop entries (desktop-file-validate) and start one through GLib (gio).
-PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format desktop-file-utils libglib2.0-bin)
+# The tests validate desktop entries (desktop-file-validate) and the metainfo (appstreamcli), start an entry
+# through GLib (gio), and check the .deb (dpkg-dev for its dependencies, lintian, strace to see what the
+# installed program reads).
+PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format desktop-file-utils libglib2.0-bin appstream dpkg-dev
+    lintian strace)
 # The Windows build: the compiler, GoogleTest's sources to build for Windows, and Wine to run the tests.
 PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64)

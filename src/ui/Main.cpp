@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <memory>
 
+#include "Version.h"
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/mMain.h"
@@ -81,11 +82,16 @@ int RunProgram(int argc, char** argv) {
     const int requests = platform::CatchTerminationRequests();
     QApplication application(argc, argv);
     application.setApplicationName(QStringLiteral("Pavonel"));
+    // The desktop matches the windows with the installed desktop entry by this name.
+    QGuiApplication::setDesktopFileName(QString::fromLatin1(Version::kAppId));
     QtUserInterface ui;
     InstallUserInterface(&ui);
-    QPointer<frmMain> window = Main();
-    if (window && requests >= 0)
+    // Listening starts before the start-up, so that a request during its questions (the game's path of a
+    // first start) ends the program too.
+    QPointer<frmMain> window;
+    if (requests >= 0)
         CloseOnRequest(application, window, requests);
+    window = Main();
     const int status = window ? application.exec() : 0;
     mMain::ClosePublicObjects();
     InstallUserInterface(nullptr);
