@@ -1,4 +1,4 @@
-// A new widget under its documented name: the objectName the program's trail, its tests and its screenshots
+// A new widget with its objectName, the name that the program's trail, its tests and its screenshots
 // know it by.
 #pragma once
 

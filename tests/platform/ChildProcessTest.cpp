@@ -16,6 +16,7 @@ void ChildProcessTest::SetUp() {
     fs::current_path(m_dir.Path());
     // Wine only where a test puts it on PATH, also on a machine that has Debian's own.
     m_platform.SetWineCandidates({"wine", "wine64"});
+    m_platform.SetTrustMarking(false);
 }
 
 void ChildProcessTest::TearDown() {

@@ -6,7 +6,7 @@ namespace platform {
 namespace {
 
 constexpr std::string_view kGroup = "[Desktop Entry]";
-constexpr std::string_view kReserved = " \t\n\"'\\><~|&;$*?#()`";
+constexpr std::string_view kReserved = " \t\n\r\"'\\><~|&;$*?#()`";
 constexpr std::string_view kEscapedInQuotes = "\"`$\\";
 
 std::string QuotedArgument(std::string_view argument) {

@@ -114,15 +114,17 @@ std::string PosixPlatform::ProgramDirectory() {
     return error ? std::string(".") : current.string();
 }
 
-// Permission bits count for the superuser too, as they do for the settings file itself.
+// An installed program (its texts in the layout's data folder) never writes beside itself, whoever runs
+// it; another one does while its folder may be written. Permission bits count for the superuser too.
 std::string PosixPlatform::SettingsDirectory() {
     const std::string program = ProgramDirectory();
     struct stat info {};
     const bool writable = stat(program.c_str(), &info) == 0 &&
                           (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0 &&
                           access(program.c_str(), W_OK) == 0;
+    const bool installed = DataDirectory() != program;
     const std::string config = platform::XdgConfigHome();
-    return writable || config.empty() ? program : config + "/Pavonel";
+    return (writable && !installed) || config.empty() ? program : config + "/Pavonel";
 }
 
 std::string PosixPlatform::DataDirectory() {

@@ -19,8 +19,8 @@ class PosixPlatform : public Platform {
 public:
     std::string ProgramDirectory() override;
 
-    // The program's folder while it may be written (a build tree, a portable copy), else
-    // $XDG_CONFIG_HOME/Pavonel (~/.config/Pavonel), whether or not that exists yet.
+    // The program's folder while it may be written and is not installed (a build tree, a portable copy),
+    // else $XDG_CONFIG_HOME/Pavonel (~/.config/Pavonel), whether or not that exists yet.
     std::string SettingsDirectory() override;
     // <prefix>/share/pavonel when the program runs from <prefix>/bin and that folder exists, else the
     // program's folder.
@@ -56,6 +56,8 @@ public:
     // rules. The file is replaced whole, made executable, and marked trusted for the desktop through `gio`
     // when that is installed. The icon, show command and hotkey have no place in it and read back as none.
     std::string ShellLinkEnding() override { return ".desktop"; }
+    // Whether written entries are marked trusted through gio (tests keep the user's desktop data untouched).
+    void SetTrustMarking(bool mark) { m_markTrusted = mark; }
     // Where Wine is looked for (kWineCandidates unless a test says otherwise).
     void SetWineCandidates(std::vector<std::string> candidates) { m_wineCandidates = std::move(candidates); }
     bool WriteShellLink(const std::string& linkFile, const ShellLink& link) override;
@@ -63,4 +65,5 @@ public:
 
 private:
     std::vector<std::string> m_wineCandidates = platform::kWineCandidates;
+    bool m_markTrusted = true;
 };

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "base/mString.h"
 #include "platform/FileSystem.h"
 #include "platform/NativePath.h"
 #include "platform/WindowsCommandLine.h"
@@ -49,14 +50,16 @@ bool PosixPlatform::WriteShellLink(const std::string& linkFile, const ShellLink&
     if (link.target.empty() || linkFile.empty())
         return false;
     std::string name = fs::path(platform::PathOf(linkFile)).filename().string();
-    if (name.ends_with(kEnding))
+    if (name.size() >= kEnding.size() &&
+        mString::EqualsNoCase(std::string_view(name).substr(name.size() - kEnding.size()), kEnding))
         name.resize(name.size() - kEnding.size());
     const platform::DesktopEntry entry{name, link.description, ExecOf(link, m_wineCandidates),
                                        link.workingDirectory};
     if (!platform::ReplaceFile(linkFile, platform::DesktopEntryText(entry)))
         return false;
     chmod(linkFile.c_str(), 0755);
-    MarkTrusted(linkFile);
+    if (m_markTrusted)
+        MarkTrusted(linkFile);
     return true;
 }
 

@@ -26,6 +26,7 @@ frmUpdate::frmUpdate(QWidget* parent) : ModalDialog("frmUpdate", "UPDATE_DIALOG"
     prgSearching->setRange(0, 0);
     prgSearching->setTextVisible(false);
     lblStatus = WrappedLabel("lblStatus");
+    lblStatus->setTextFormat(Qt::PlainText);  // it may show what a server said
     cmdSearchUpdates = Button("cmdSearchUpdates");
     cmdOpenUpdatePage = Button("cmdOpenUpdatePage");
     cmdClose = Button("cmdClose");

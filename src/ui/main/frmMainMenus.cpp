@@ -22,7 +22,8 @@ QMenu* NewMenu(QWidget* parent, const char* name) {
 
 // Shows `items` in a built menu: its first entries take their captions, tags and checks, the others are
 // hidden. Missing entries are made whole before the menu gets them, all at once, and a property is set
-// only when it changes: with a thousand profiles every event the menu is spared counts at start.
+// only when it changes (Qt's own setters compare; the data is compared here): with a thousand profiles
+// every event the menu is spared counts.
 template <class Handler>
 void ShowBuiltItems(std::vector<QAction*>& built, const std::vector<frmMainLists::MenuItem>& items,
                     QMenu* menu, const QString& name, Handler handler) {

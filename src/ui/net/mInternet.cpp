@@ -81,9 +81,13 @@ void Download::Fail(const QString& detail) {
     emit Failed(QString::fromLatin1(kNotFound), detail);
 }
 
-// A redirect stays on the address's own host, over the web, and only so many of them are followed.
+// A redirect stays on the address's own host, scheme and port, and only so many of them are followed: a
+// reply fetched over https never continues over plain http.
 void Download::Redirected(const QUrl& target) {
-    if (!IsWeb(target) || target.host().compare(m_address.host(), Qt::CaseInsensitive) != 0) {
+    const bool sameSite = IsWeb(target) && target.scheme() == m_address.scheme() &&
+                          target.host().compare(m_address.host(), Qt::CaseInsensitive) == 0 &&
+                          target.port(-1) == m_address.port(-1);
+    if (!sameSite) {
         Fail(QStringLiteral("sent on to %1").arg(target.toDisplayString()));
         return;
     }
@@ -96,21 +100,22 @@ void Download::Redirected(const QUrl& target) {
     Get(target);
 }
 
-// Announced or received, more than the limit ends the download.
-void Download::CheckSize() {
+// Announced or received, more than the limit ends the download; true when it did.
+bool Download::CheckSize() {
     if (!m_reply)
-        return;
+        return false;
     const QVariant announced = m_reply->header(QNetworkRequest::ContentLengthHeader);
     if ((announced.isValid() && announced.toLongLong() > m_limits.maxBytes) ||
-        m_reply->bytesAvailable() > m_limits.maxBytes)
+        m_reply->bytesAvailable() > m_limits.maxBytes) {
         Fail(QStringLiteral("the reply is longer than %1 KiB").arg(m_limits.maxBytes / 1024));
+        return true;
+    }
+    return false;
 }
 
 void Download::Done() {
-    if (m_over || !m_reply)
-        return;
-    CheckSize();
-    if (m_over)
+    // Nothing of this object is touched after a failure was told: its receiver may have deleted it.
+    if (m_over || !m_reply || CheckSize())
         return;
     const QVariant status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
     const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();

@@ -53,7 +53,7 @@ private:
     void Get(const QUrl& address);
     void Fail(const QString& detail);
     void Redirected(const QUrl& target);
-    void CheckSize();
+    bool CheckSize();
     void Done();
 
     Limits m_limits;

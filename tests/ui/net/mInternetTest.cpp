@@ -113,16 +113,11 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"RedirectLoop", Server::Redirect("/"), {}, kNotFound},
         Case{"RedirectElsewhere", Server::Redirect("http://other.invalid/x"), {}, kNotFound},
         Case{"RedirectToLocalhost", Server::Redirect("http://localhost:{port}/x"), {}, kNotFound},
+        Case{"RedirectToAnotherPort", Server::Redirect("http://127.0.0.1:1/x"), {}, kNotFound},
+        Case{"RedirectToHttps", Server::Redirect("https://127.0.0.1:{port}/x"), {}, kNotFound},
         Case{"FtpAddress", {}, {}, kNoInternet, "ftp://x/y"},
         Case{"NoAddress", {}, {}, kNoInternet, "not a url"}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST(mInternetLimits, DefaultToTenSecondsSixtyFourKibAndFiveRedirects) {
-    const mInternet::Limits limits;
-    EXPECT_EQ(limits.timeout, 10s);
-    EXPECT_EQ(limits.maxBytes, 64 * 1024);
-    EXPECT_EQ(limits.maxRedirects, 5);
-}
 
 // Cancelled at once, while the server is silent, or before a bad address is told: nothing is told
 // afterwards, not even when the time limit has passed.
