@@ -51,24 +51,31 @@ std::string SettingsFile(int profiles) {
 
 }  // namespace
 
+TempFolder::TempFolder(const std::string& name)
+    : m_path(fs::temp_directory_path() / (name + "-" + std::to_string(::getpid()))) {
+    fs::create_directories(m_path);
+}
+
+TempFolder::~TempFolder() {
+    std::error_code ignored;
+    fs::remove_all(m_path, ignored);
+}
+
 BenchFolder::BenchFolder(int profiles)
-    : m_profiles(profiles),
-      m_path(fs::temp_directory_path() /
-             ("pavonel-bench-" + std::to_string(::getpid()) + "-" + std::to_string(profiles))) {
-    fs::create_directories(m_path / "config");
+    : m_profiles(profiles), m_folder("pavonel-bench-" + std::to_string(profiles)) {
+    fs::create_directories(m_folder.Path() / "config");
     for (const char* language : {"LNG_EN.ini", "LNG_DE.ini"}) {
-        fs::copy_file(fs::path(PAVONEL_SOURCE_DIR) / "config" / language, m_path / "config" / language,
-                      fs::copy_options::overwrite_existing);
+        fs::copy_file(fs::path(PAVONEL_SOURCE_DIR) / "config" / language,
+                      m_folder.Path() / "config" / language, fs::copy_options::overwrite_existing);
     }
     WriteSettings();
-    m_platform = std::make_unique<BenchPlatform>(m_path.string());
+    m_platform = std::make_unique<BenchPlatform>(m_folder.Path().string());
 }
 
 BenchFolder::~BenchFolder() {
     g_cTranslate.reset();
     g_cApp.reset();
     InstallPlatform(nullptr);
-    fs::remove_all(m_path);
 }
 
 std::unique_ptr<Platform> BenchFolder::PlatformAt(const std::string& folder) {
@@ -82,22 +89,23 @@ std::string BenchFolder::ProfileName(int i) {
 // Files the program meets at start were written long before; dating them back measures the steady state
 // instead of the re-reads that a just-written file gets.
 void BenchFolder::WriteSettings() const {
-    const fs::path ini = m_path / "Pavonel.ini";
+    const fs::path ini = m_folder.Path() / "Pavonel.ini";
     std::ofstream(ini, std::ios::binary) << SettingsFile(m_profiles);
-    for (const fs::path& file : {ini, m_path / "config/LNG_EN.ini", m_path / "config/LNG_DE.ini"})
+    for (const fs::path& file :
+         {ini, m_folder.Path() / "config/LNG_EN.ini", m_folder.Path() / "config/LNG_DE.ini"})
         fs::last_write_time(file, fs::last_write_time(file) - std::chrono::hours(1));
     iniFile::Store().Clear();
 }
 
 void BenchFolder::PointAt(const fs::path& gameFolder) const {
-    std::ifstream in(m_path / "Pavonel.ini", std::ios::binary);
+    std::ifstream in(m_folder.Path() / "Pavonel.ini", std::ios::binary);
     std::string settings(std::istreambuf_iterator<char>(in), {});
     in.close();
     const std::string old = "/games/Tarvolin/";
     const std::string now = (gameFolder / "").string();
     for (std::size_t at = 0; (at = settings.find(old, at)) != std::string::npos; at += now.size())
         settings.replace(at, old.size(), now);
-    std::ofstream(m_path / "Pavonel.ini", std::ios::binary) << settings;
+    std::ofstream(m_folder.Path() / "Pavonel.ini", std::ios::binary) << settings;
 }
 
 void BenchFolder::Enter() {

@@ -8,6 +8,20 @@
 
 #include "platform/Platform.h"
 
+// A folder of a benchmark's own under the temporary folder (its name gets the process id), removed with
+// everything in it when the benchmark is done with it.
+class TempFolder {
+public:
+    explicit TempFolder(const std::string& name);
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+    const std::filesystem::path& Path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
+};
+
 class BenchFolder {
 public:
     explicit BenchFolder(int profiles);
@@ -29,10 +43,10 @@ public:
     // Makes this folder the program's folder and creates the program-wide objects on it.
     void Enter();
 
-    const std::filesystem::path& Path() const { return m_path; }
+    const std::filesystem::path& Path() const { return m_folder.Path(); }
 
 private:
     int m_profiles;
-    std::filesystem::path m_path;
+    TempFolder m_folder;
     std::unique_ptr<Platform> m_platform;
 };

@@ -36,21 +36,13 @@ private:
     std::string m_folder;
 };
 
-class GameFolder {
+class GameFolder : public TempFolder {
 public:
-    GameFolder() : m_path(fs::temp_directory_path() / ("pavonel-launch-bench-" + std::to_string(getpid()))) {
-        fs::create_directories(m_path / "Scenarios" / "grand tour");
-        std::ofstream(m_path / "pak128.pak").put('p');
-        fs::copy_file("/bin/true", m_path / "tarvolin.exe");
+    GameFolder() : TempFolder("pavonel-launch-bench") {
+        fs::create_directories(Path() / "Scenarios" / "grand tour");
+        std::ofstream(Path() / "pak128.pak").put('p');
+        fs::copy_file("/bin/true", Path() / "tarvolin.exe");
     }
-    ~GameFolder() {
-        std::error_code ignored;
-        fs::remove_all(m_path, ignored);
-    }
-    const fs::path& Path() const { return m_path; }
-
-private:
-    fs::path m_path;
 };
 
 void BM_StartClickToGameProcess(benchmark::State& state) {

@@ -140,23 +140,15 @@ void BM_Pavonel(benchmark::State& state) {
 BENCHMARK(BM_Pavonel)->Arg(10)->Arg(1000)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(20);
 
 // A game folder of 10,000 graphic paks and 1,000 scenario folders, removed when the benchmarks end.
-class BigGameFolder {
+class BigGameFolder : public TempFolder {
 public:
-    BigGameFolder() : m_path(fs::temp_directory_path() / ("pavonel-bench-game-" + std::to_string(getpid()))) {
+    BigGameFolder() : TempFolder("pavonel-bench-game") {
         for (int i = 0; i < 1000; ++i)
-            fs::create_directories(m_path / "Scenarios" / ("scenario " + std::to_string(i)));
+            fs::create_directories(Path() / "Scenarios" / ("scenario " + std::to_string(i)));
         for (int i = 0; i < 10000; ++i)
-            std::ofstream(m_path / ("pak" + std::to_string(i) + ".pak")).put('p');
-        std::ofstream(m_path / "tarvolin.exe") << "MZ";
+            std::ofstream(Path() / ("pak" + std::to_string(i) + ".pak")).put('p');
+        std::ofstream(Path() / "tarvolin.exe") << "MZ";
     }
-    ~BigGameFolder() {
-        std::error_code ignored;
-        fs::remove_all(m_path, ignored);
-    }
-    const fs::path& Path() const { return m_path; }
-
-private:
-    fs::path m_path;
 };
 
 // The active profile's game is in that folder.

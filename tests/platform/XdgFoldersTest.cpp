@@ -108,10 +108,14 @@ TEST(SpecialFolderTest, AnInstalledProgramHasItsSettingsAndDataInTheirOwnFolders
     EXPECT_EQ(installed.SettingsDirectory(), dir.File("usr/bin"));
     EXPECT_EQ(installed.DataDirectory(), dir.File("usr/bin"));
     fs::create_directories(dir.Path() / "usr" / "share" / "pavonel");
+    EXPECT_EQ(installed.SettingsDirectory(),
+              dir.File("config/Pavonel"));  // installed, even where it may write
+    fs::remove_all(dir.Path() / "usr" / "share");
     fs::permissions(dir.Path() / "usr" / "bin",
                     fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                     fs::perm_options::remove);
-    EXPECT_EQ(installed.SettingsDirectory(), dir.File("config/Pavonel"));
+    EXPECT_EQ(installed.SettingsDirectory(), dir.File("config/Pavonel"));  // a copy nobody may write beside
+    fs::create_directories(dir.Path() / "usr" / "share" / "pavonel");
     EXPECT_EQ(installed.DataDirectory(), dir.File("usr/share/pavonel"));
     fs::permissions(dir.Path() / "usr" / "bin", fs::perms::owner_write, fs::perm_options::add);
 }

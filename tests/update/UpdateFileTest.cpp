@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "Version.h"
 
 namespace {
@@ -10,9 +12,9 @@ namespace {
 using namespace std::string_literals;
 
 TEST(UpdateFileTest, TheAddressCarriesTheVersionAndTheSite) {
-    const std::string name = "update-" + std::to_string(Version::kMajor) + "-" +
-                             std::to_string(Version::kMinor) + "-" + std::to_string(Version::kRevision) +
-                             ".txt";
+    // Version 1.2.3 asks for update-1-2-3.txt: the version text with its dots made dashes.
+    std::string name = "update-" + std::string(Version::kText) + ".txt";
+    std::replace(name.begin(), name.end() - 4, '.', '-');
     EXPECT_EQ(update::FileName(), name);
     EXPECT_EQ(update::FileAddress(),
               "https://" + std::string(Version::kWebHost) + "/down/pavonel/updates/" + name);

@@ -1,5 +1,6 @@
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "base/mString.h"
@@ -31,9 +32,11 @@ std::vector<std::string> ExecOf(const ShellLink& link, const std::vector<std::st
     return exec;
 }
 
-bool IsWine(const std::string& program) {
-    const std::string name = fs::path(program).filename().string();
-    return name == "wine" || name == "wine64";
+// A program named like one of the places Wine is looked for.
+bool IsWine(const std::string& program, const std::vector<std::string>& wines) {
+    const fs::path name = fs::path(program).filename();
+    return std::any_of(wines.begin(), wines.end(),
+                       [&name](const std::string& wine) { return fs::path(wine).filename() == name; });
 }
 
 // Marks the entry as one the user trusts, so that a desktop starts it from the desktop folder without
@@ -70,7 +73,7 @@ std::optional<ShellLink> PosixPlatform::ReadShellLink(const std::string& linkFil
     const std::optional<platform::DesktopEntry> entry = platform::ParseDesktopEntry(content->bytes);
     if (!entry || entry->exec.empty())
         return std::nullopt;
-    const std::size_t program = entry->exec.size() > 1 && IsWine(entry->exec[0]) ? 1 : 0;
+    const std::size_t program = entry->exec.size() > 1 && IsWine(entry->exec[0], m_wineCandidates) ? 1 : 0;
     ShellLink link;
     link.target = entry->exec[program];
     link.arguments = JoinWindowsCommandLine(
