@@ -12,11 +12,7 @@ namespace {
 class mCommonDialogTest : public AppFixture {
 protected:
     void Answer(OpenFileAnswer::Outcome outcome, std::vector<std::string> files = {}, int32_t code = 0) {
-        OpenFileAnswer answer;
-        answer.outcome = outcome;
-        answer.files = std::move(files);
-        answer.errorCode = code;
-        ui.fileAnswers.push_back(answer);
+        ui.fileAnswers.push_back(OpenFileAnswer{outcome, std::move(files), false, code});
     }
 
     OpenFileOptions options = Proposal();
@@ -32,23 +28,19 @@ private:
     }
 };
 
-TEST_F(mCommonDialogTest, HandsEveryOptionToTheChooser) {
-    options.multiSelect = true;
-    options.title = "Select Tarvolin";
-    mCommonDialog::ShowOpen(options, title, false);
-    ASSERT_EQ(ui.fileRequests.size(), 1u);
-    EXPECT_EQ(ui.fileRequests[0].fileName, "/games/tarvolin.exe");
-    EXPECT_EQ(ui.fileRequests[0].filter, "Programs (*.exe)|*.exe");
-    EXPECT_EQ(ui.fileRequests[0].title, "Select Tarvolin");
-    EXPECT_TRUE(ui.fileRequests[0].multiSelect);
-}
-
+// The chooser gets every option; the chosen file becomes the name and the title, and the read-only box's
+// state comes back.
 TEST_F(mCommonDialogTest, ChosenFileBecomesNameAndTitle) {
+    options.title = "Select Tarvolin";
     const std::string chosen = Native("/opt/tarvolin/bin/tarvolin.exe");
-    Answer(OpenFileAnswer::Outcome::kChosen, {chosen});
+    ui.fileAnswers.push_back(OpenFileAnswer{OpenFileAnswer::Outcome::kChosen, {chosen}, true, 0});
     EXPECT_EQ(mCommonDialog::ShowOpen(options, title, true), chosen);
+    ASSERT_EQ(ui.fileRequests.size(), 1u);
+    EXPECT_EQ(ui.fileRequests[0].fileName + "|" + ui.fileRequests[0].filter + "|" + ui.fileRequests[0].title,
+              "/games/tarvolin.exe|Programs (*.exe)|*.exe|Select Tarvolin");
     EXPECT_EQ(options.fileName, chosen);
     EXPECT_EQ(title, "tarvolin.exe");
+    EXPECT_TRUE(options.readOnlyChecked);
 }
 
 TEST_F(mCommonDialogTest, SeveralFilesBecomeFolderAndNulSeparatedNames) {
@@ -57,23 +49,14 @@ TEST_F(mCommonDialogTest, SeveralFilesBecomeFolderAndNulSeparatedNames) {
     const std::string expected = Native(std::string("/paks\0pak64.pak\0pak128.pak", 26));
     EXPECT_EQ(mCommonDialog::ShowOpen(options, title, false), expected);
     EXPECT_EQ(title, "pak64.pak");
+    EXPECT_TRUE(ui.fileRequests.at(0).multiSelect);
 }
 
-TEST_F(mCommonDialogTest, ReadOnlyBoxStateComesBack) {
-    OpenFileAnswer answer{OpenFileAnswer::Outcome::kChosen, {"/a/b.txt"}, true, 0};
-    ui.fileAnswers.push_back(answer);
-    mCommonDialog::ShowOpen(options, title, false);
-    EXPECT_TRUE(options.readOnlyChecked);
-}
-
-TEST_F(mCommonDialogTest, CancelKeepsTheProposedNameWhenItIsNoFailure) {
+// A cancel keeps the proposed name, and is a failure only when the caller says so.
+TEST_F(mCommonDialogTest, CancelKeepsTheNameOrRaises) {
     Answer(OpenFileAnswer::Outcome::kCancelled);
     EXPECT_EQ(mCommonDialog::ShowOpen(options, title, false), "/games/tarvolin.exe");
-    EXPECT_EQ(options.fileName, "/games/tarvolin.exe");
     EXPECT_EQ(title, "untouched");
-}
-
-TEST_F(mCommonDialogTest, CancelRaisesWhenItIsAFailure) {
     Answer(OpenFileAnswer::Outcome::kCancelled);
     std::optional<Failure> failure = FailureOf([&] { mCommonDialog::ShowOpen(options, title, true); });
     ASSERT_TRUE(failure);

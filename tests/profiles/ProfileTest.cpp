@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
+#include "support/Portable.h"
+#include "translate/cTranslate.h"
 
 namespace {
 
@@ -22,59 +26,51 @@ protected:
     Profile profile;
 };
 
+// A profile's settings (the defaults of a new one where a case gives none) and its command line.
 struct CommandLineCase {
-    const char* name;
-    void (*setUp)(Profile&);
+    bool log = true, standard = true, freeplay = false;
+    int16_t resolution = 2, width = 640, height = 480, refresh = 1;
+    const char* scenario = "";
+    const char* pak = "";
     const char* expected;
 };
 
-class CommandLineTest : public AppFixture, public ::testing::WithParamInterface<CommandLineCase> {};
-
-TEST_P(CommandLineTest, ComposesTheGamesArguments) {
-    Profile profile;
-    GetParam().setUp(profile);
-    EXPECT_EQ(profile.GetCmdLineParameters(), GetParam().expected);
+TEST_F(ProfileTest, CommandLineHasTheGamesArgumentsInItsOrder) {
+    const CommandLineCase cases[] = {
+        {.log = false, .resolution = 3, .refresh = 0, .expected = "-res 3"},
+        {.log = false,
+         .standard = false,
+         .freeplay = true,
+         .width = 800,
+         .height = 600,
+         .refresh = 0,
+         .expected = "-screensize 800x600 -freeplay"},
+        {.refresh = -4, .expected = "-log -res 2"},
+        // The scenario runs into the graphic pak, and paths with blanks are not quoted.
+        {.log = false,
+         .refresh = 0,
+         .scenario = "demo.sve",
+         .pak = "pak128",
+         .expected = "-res 2 -scenario demo.sve-graphicpack pak128"},
+        {.refresh = 0,
+         .scenario = "scenarios/Große Fahrt.sve ",
+         .expected = "-log -res 2 -scenario scenarios/Große Fahrt.sve"},
+        {.pak = "pak64", .expected = "-log -res 2 -refresh 1 -graphicpack pak64"}};
+    for (const CommandLineCase& c : cases) {
+        Profile p;
+        p.SetLogMessages(c.log);
+        p.SetUsePreDefinedResolution(c.standard);
+        p.SetFreeplay(c.freeplay);
+        p.SetPreDefinedResolution(c.resolution);
+        p.SetResolutionWidth(c.width);
+        p.SetResolutionHeight(c.height);
+        p.SetRefresh(c.refresh);
+        p.SetScenarioPath(c.scenario);
+        p.SetGraphicPakPath(c.pak);
+        EXPECT_EQ(p.GetCmdLineParameters(), c.expected);
+    }
+    EXPECT_EQ(Profile().GetCmdLineParameters(), "-log -res 2 -refresh 1") << "a new profile";
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Profile, CommandLineTest,
-    ::testing::Values(CommandLineCase{"Defaults", [](Profile&) {}, "-log -res 2 -refresh 1"},
-                      CommandLineCase{"AllOff",
-                                      [](Profile& p) {
-                                          p.SetLogMessages(false);
-                                          p.SetPreDefinedResolution(3);
-                                          p.SetRefresh(0);
-                                      },
-                                      "-res 3"},
-                      CommandLineCase{"CustomSizeAndFreeplay",
-                                      [](Profile& p) {
-                                          p.SetUsePreDefinedResolution(false);
-                                          p.SetResolutionWidth(800);
-                                          p.SetResolutionHeight(600);
-                                          p.SetLogMessages(false);
-                                          p.SetFreeplay(true);
-                                          p.SetRefresh(0);
-                                      },
-                                      "-screensize 800x600 -freeplay"},
-                      CommandLineCase{"NegativeRefreshIsLeftOut", [](Profile& p) { p.SetRefresh(-4); },
-                                      "-log -res 2"},
-                      CommandLineCase{"ScenarioRunsIntoGraphicPak",
-                                      [](Profile& p) {
-                                          p.SetLogMessages(false);
-                                          p.SetRefresh(0);
-                                          p.SetScenarioPath("demo.sve");
-                                          p.SetGraphicPakPath("pak128");
-                                      },
-                                      "-res 2 -scenario demo.sve-graphicpack pak128"},
-                      CommandLineCase{"PathsWithBlanksAreNotQuoted",
-                                      [](Profile& p) {
-                                          p.SetRefresh(0);
-                                          p.SetScenarioPath("scenarios/Große Fahrt.sve ");
-                                      },
-                                      "-log -res 2 -scenario scenarios/Große Fahrt.sve"},
-                      CommandLineCase{"GraphicPakAlone", [](Profile& p) { p.SetGraphicPakPath("pak64"); },
-                                      "-log -res 2 -refresh 1 -graphicpack pak64"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(ProfileTest, OnlyARealChangeMarksTheProfileChanged) {
     profile.SetProfileName("profile_Race");
@@ -107,17 +103,13 @@ TEST_F(ProfileTest, LoadsEverySettingWithoutCountingItAsAChange) {
         "RES_WIDTH=1920\r\nRES_HEIGHT=1080\r\nSCENARIO=Überland.sve\r\nGRAPICPAK=pak.nordisch\r\n"
         "REFRESH=-1\r\nTARVOPATH=/spiele/Tarvolin/tarvolin.exe\r\nDESCRIPTION=Schnell & weit\r\n");
     Loaded("profile_Race");
-    EXPECT_FALSE(profile.LogMessages());
-    EXPECT_TRUE(profile.Freeplay());
-    EXPECT_FALSE(profile.UsePreDefinedResolution());
-    EXPECT_EQ(profile.PreDefinedResolution(), 99);
-    EXPECT_EQ(profile.ResolutionWidth(), 1920);
-    EXPECT_EQ(profile.ResolutionHeight(), 1080);
-    EXPECT_EQ(profile.ScenarioPath(), "Überland.sve");
-    EXPECT_EQ(profile.GraphicPakPath(), "pak.nordisch");
-    EXPECT_EQ(profile.Refresh(), -1);
-    EXPECT_EQ(profile.TarvolinPath(), "/spiele/Tarvolin/tarvolin.exe");
-    EXPECT_EQ(profile.ProfileDescription(), "Schnell & weit");
+    EXPECT_EQ(std::tuple(profile.LogMessages(), profile.Freeplay(), profile.UsePreDefinedResolution(),
+                         profile.PreDefinedResolution(), profile.ResolutionWidth(),
+                         profile.ResolutionHeight(), profile.Refresh()),
+              std::tuple(false, true, false, 99, 1920, 1080, -1));
+    EXPECT_EQ(profile.ScenarioPath() + "|" + profile.GraphicPakPath() + "|" + profile.TarvolinPath() + "|" +
+                  profile.ProfileDescription(),
+              "Überland.sve|pak.nordisch|/spiele/Tarvolin/tarvolin.exe|Schnell & weit");
     EXPECT_FALSE(profile.DataChanged());
     EXPECT_TRUE(ui.messages.empty()) << "99 is no reason for a warning";
 }
@@ -195,6 +187,57 @@ TEST_F(ProfileTest, SettingsTextDescribesTheProfileInTheChosenLanguage) {
               "Scenario: demo.sve\r\nResolution: 1600 x 900");
     EXPECT_EQ(Profile::GetStandardResolutionDescription(3), "1024 x 768");
     EXPECT_EQ(Profile::GetRefreshDescription(2), "70 Hz");
+}
+
+class ProfileLaunchTest : public AppFixture {
+protected:
+    ProfileLaunchTest() {
+        profile.SetTarvolinPath(Native("/games/Tar volin/tarvolin.exe"));
+        profile.SetRefresh(0);
+    }
+
+    Profile profile;
+};
+
+// Without the confirmation the game starts at once in its own folder, or in none for a bare name; with it,
+// the confirmation shows the command line and can stop the start.
+TEST_F(ProfileLaunchTest, StartsInTheGamesFolderAfterTheConfirmation) {
+    ui.startAnswers = {false, true};
+    profile.StartTarvolin(0);
+    EXPECT_TRUE(platform.calls.empty());
+    profile.StartTarvolin(77);
+    EXPECT_EQ(ui.startDialogs, (std::vector<std::string>{"-log -res 2", "-log -res 2"}));
+    g_cApp->Options().SetShowStartTarvolinDialog(false);
+    profile.SetTarvolinPath("tarvolin.exe");
+    profile.StartTarvolin(0);
+    EXPECT_EQ(ui.startDialogs.size(), 2u);
+    EXPECT_EQ(platform.calls, (std::vector<ShellCall>{{77, "open", Native("/games/Tar volin/tarvolin.exe"),
+                                                       "-log -res 2", Native("/games/Tar volin/"), 1},
+                                                      {0, "open", "tarvolin.exe", "-log -res 2", "", 1}}));
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+// The shell's answer decides which message the user gets; each names the path that was tried.
+TEST_F(ProfileLaunchTest, AGameThatCannotStartIsExplained) {
+    g_cApp->Options().SetShowStartTarvolinDialog(false);
+    const std::pair<int32_t, const char*> cases[] = {{kSeErrFileNotFound, "ERR_GameNotFound"},
+                                                     {kSeErrPathNotFound, "ERR_GameNotFound"},
+                                                     {kSeErrAccessDenied, "ERR_GameNotExecutable"},
+                                                     {kSeErrBadFormat, "ERR_GameNotExecutable"},
+                                                     {kSeErrNoAssociation, "ERR_WineMissing"}};
+    for (const auto& [result, key] : cases) {
+        platform.shellResult = result;
+        ui.messages.clear();
+        profile.StartTarvolin(0);
+        ASSERT_EQ(ui.messages.size(), 1u) << key;
+        EXPECT_EQ(ui.messages[0].prompt,
+                  g_cTranslate->TranslateEx("ERROR_MESSAGES", key, profile.TarvolinPath()));
+        EXPECT_NE(ui.messages[0].prompt.find(Native("/games/Tar volin/tarvolin.exe")), std::string::npos);
+    }
+    UseLanguage("DE");
+    profile.StartTarvolin(0);
+    EXPECT_NE(ui.messages.back().prompt.find("Wine"), std::string::npos);
+    EXPECT_EQ(ui.messages.back().prompt.find("please install"), std::string::npos) << "shown in German";
 }
 
 }  // namespace

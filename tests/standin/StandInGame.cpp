@@ -3,18 +3,15 @@
 // PAVONEL_STANDIN_WINDOW=1 in its environment (scripts/run sets it for the demo), the build with windows
 // then also shows a person what it received until the window is closed.
 //
-// The record, launch-record.txt beside this executable, holds the working directory on its first line, the
-// number of arguments on the second, and then each argument (argv[1] on) on a line of its own. In the
-// directory and the arguments a backslash is written "\\", a line feed "\n" and a carriage return "\r", so
-// every line stands for exactly one text. The record is written under another name and renamed, so a
-// record that exists is complete.
+// The record, launch-record.txt beside this executable, holds the working directory and then each argument
+// (argv[1] on), each ended by a NUL, which no argument can hold. It is written under another name and
+// renamed, so a record that exists is complete.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <random>
 #include <string>
-#include <string_view>
 #include <system_error>
 
 #include "platform/NativePath.h"
@@ -27,31 +24,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Escaped(std::string_view text) {
-    std::string result;
-    for (const char c : text) {
-        if (c == '\\')
-            result += "\\\\";
-        else if (c == '\n')
-            result += "\\n";
-        else if (c == '\r')
-            result += "\\r";
-        else
-            result += c;
-    }
-    return result;
-}
-
 int ArgumentCount(int argc) {
     return argc > 1 ? argc - 1 : 0;
 }
 
 // The directory as the program's own texts spell it, so a test compares it with its own path text.
 std::string RecordText(const fs::path& directory, int argc, char** argv) {
-    std::string text =
-        Escaped(platform::TextOf(directory)) + "\n" + std::to_string(ArgumentCount(argc)) + "\n";
+    std::string text = platform::TextOf(directory) + '\0';
     for (int i = 1; i < argc; ++i)
-        text += Escaped(argv[i]) + "\n";
+        text += std::string(argv[i]) + '\0';
     return text;
 }
 

@@ -1,7 +1,6 @@
 // The settings companions against a real settings file in the program folder.
 #include <gtest/gtest.h>
 
-#include "Version.h"
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
@@ -51,8 +50,7 @@ TEST_F(CompanionTest, OtherSectionsLandUnderTheirNames) {
         ReadIni(),
         "; keep me\r\n[PROFILES]\r\nLASTACTIVEPROFILE=profile_Race\r\n[APPLICATION]\r\nFILEVERSION=1.1\r\n"
         "APPVERSION=" +
-            std::to_string(Version::kMinor) + "." + std::to_string(Version::kMajor) + "." +
-            std::to_string(Version::kRevision) +
+            Application::AppVersionText() +
             "\r\n[OPTIONS]\r\nEDITORPATH=/usr/bin/gedit\r\nLANGUAGE=DE\r\nSTARTTARVOLINDIALOG=0\r\n");
 }
 

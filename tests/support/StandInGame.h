@@ -35,9 +35,6 @@ public:
     // Removes the record of an earlier start, so that the next wait sees only a new one.
     void ForgetRecord() const;
 
-    // Reads a record's text; nothing when it is malformed or incomplete.
-    static std::optional<LaunchRecord> ParseRecord(const std::string& text);
-
 private:
     std::string m_path;
 };
