@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 #include "app/Application.h"
 #include "app/ErrorReport.h"
@@ -33,14 +34,11 @@ TEST_F(mMainTest, GamePathChooserProposesAnExistingFileOnly) {
         EXPECT_EQ(mMain::AskForTarvoPath(current), proposal) << "cancelled with " << current;
     ASSERT_EQ(ui.fileRequests.size(), 4u);
     const OpenFileOptions& asked = ui.fileRequests[0];
-    EXPECT_EQ(asked.filter, "Programs (*.exe)|*.exe");
-    EXPECT_EQ(asked.title, "Choose the Tarvolin Program File (tarvolin.exe)");
-    EXPECT_EQ(asked.defaultExtension, ".exe");
-    EXPECT_TRUE(asked.fileMustExist);
-    EXPECT_TRUE(asked.hideReadOnly);
-    EXPECT_FALSE(asked.multiSelect);
-    EXPECT_FALSE(asked.readOnlyChecked);
-    EXPECT_EQ(asked.owner, -1);
+    EXPECT_EQ(asked.filter + "|" + asked.title + "|" + asked.defaultExtension,
+              "Programs (*.exe)|*.exe|Choose the Tarvolin Program File (tarvolin.exe)|.exe");
+    EXPECT_EQ(std::tuple(asked.fileMustExist, asked.hideReadOnly, asked.multiSelect, asked.readOnlyChecked,
+                         asked.owner),
+              std::tuple(true, true, false, false, -1));
     ui.fileAnswers.push_back(Chosen("/elsewhere/tarvolin.exe"));
     EXPECT_EQ(mMain::AskForTarvoPath(game), "/elsewhere/tarvolin.exe");
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "error/mError.h"
@@ -10,63 +11,51 @@
 
 namespace {
 
-struct ReplaceCase {
-    std::string text;
-    std::string find;
-    std::string replacement;
-    std::size_t start;
-    std::string expected;
-};
-
-class ReplaceAllTest : public ::testing::TestWithParam<ReplaceCase> {};
-
-TEST_P(ReplaceAllTest, ReplacesFromTheStartWithoutRevisitingReplacements) {
-    ReplaceCase c = GetParam();
-    mString::ReplaceAll(c.text, c.find, c.replacement, c.start);
-    EXPECT_EQ(c.text, c.expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, ReplaceAllTest,
-    ::testing::Values(ReplaceCase{"a%P1%b%P1%", "%P1%", "x", 1, "axbx"},
-                      ReplaceCase{"%P1%", "%P1%", "<%P1%>", 1, "<%P1%>"},
-                      ReplaceCase{"aaaa", "aa", "a", 1, "aa"}, ReplaceCase{"abab", "ab", "", 1, ""},
-                      ReplaceCase{"abab", "ab", "X", 2, "abX"}, ReplaceCase{"abc", "", "X", 1, "abc"},
-                      ReplaceCase{"Abc", "a", "X", 1, "Abc"}, ReplaceCase{"", "a", "X", 1, ""}));
-
-struct IntCase {
-    const char* text;
-    int expected;  // or the failure number when `fails`
-    bool fails;
-};
-
-class ToInt16Test : public ::testing::TestWithParam<IntCase> {};
-
-TEST_P(ToInt16Test, ConvertsLikeTheSettingsExpect) {
-    const IntCase& c = GetParam();
-    std::optional<Failure> failure = FailureOf([&] {
-        int16_t value = mString::ToInt16(c.text);
-        EXPECT_FALSE(c.fails) << c.text;
-        EXPECT_EQ(value, c.expected) << c.text;
-    });
-    EXPECT_EQ(failure.has_value(), c.fails) << c.text;
-    if (failure) {
-        EXPECT_EQ(failure->Number(), c.expected) << c.text;
+TEST(mStringTest, ReplaceAllGoesFromTheStartWithoutRevisitingReplacements) {
+    const std::tuple<std::string, std::string, std::string, std::size_t, std::string> cases[] = {
+        {"a%P1%b%P1%", "%P1%", "x", 1, "axbx"},
+        {"%P1%", "%P1%", "<%P1%>", 1, "<%P1%>"},
+        {"aaaa", "aa", "a", 1, "aa"},
+        {"abab", "ab", "", 1, ""},
+        {"abab", "ab", "X", 2, "abX"},
+        {"abc", "", "X", 1, "abc"},
+        {"Abc", "a", "X", 1, "Abc"},
+        {"", "a", "X", 1, ""}};
+    for (auto [text, find, replacement, start, expected] : cases) {
+        mString::ReplaceAll(text, find, replacement, start);
+        EXPECT_EQ(text, expected) << find;
     }
-    EXPECT_EQ(mString::IsNumeric(c.text), !c.fails || c.expected == mError::kOverflow) << c.text;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, ToInt16Test,
-    ::testing::Values(
-        IntCase{"640", 640, false}, IntCase{"  -32768 ", -32768, false}, IntCase{"+7", 7, false},
-        IntCase{"32767", 32767, false}, IntCase{"0000000000012", 12, false}, IntCase{"2.5", 2, false},
-        IntCase{"3.5", 4, false}, IntCase{"-0.5", 0, false}, IntCase{".9", 1, false},
-        IntCase{"32768", mError::kOverflow, true}, IntCase{"-32769", mError::kOverflow, true},
-        IntCase{"99999999999999999999", mError::kOverflow, true}, IntCase{"", mError::kTypeMismatch, true},
-        IntCase{"abc", mError::kTypeMismatch, true}, IntCase{"12 3", mError::kTypeMismatch, true},
-        IntCase{"1e3", mError::kTypeMismatch, true}, IntCase{"-", mError::kTypeMismatch, true},
-        IntCase{".", mError::kTypeMismatch, true}, IntCase{"\t5", mError::kTypeMismatch, true}));
+// A number as the settings give it, or the failure's number when it is no 16-bit integer.
+TEST(mStringTest, ToInt16ConvertsLikeTheSettingsExpect) {
+    const std::tuple<const char*, int, bool> cases[] = {{"640", 640, false},
+                                                        {"  -32768 ", -32768, false},
+                                                        {"+7", 7, false},
+                                                        {"32767", 32767, false},
+                                                        {"0000000000012", 12, false},
+                                                        {"2.5", 2, false},
+                                                        {"3.5", 4, false},
+                                                        {"-0.5", 0, false},
+                                                        {".9", 1, false},
+                                                        {"32768", mError::kOverflow, true},
+                                                        {"-32769", mError::kOverflow, true},
+                                                        {"99999999999999999999", mError::kOverflow, true},
+                                                        {"", mError::kTypeMismatch, true},
+                                                        {"abc", mError::kTypeMismatch, true},
+                                                        {"12 3", mError::kTypeMismatch, true},
+                                                        {"1e3", mError::kTypeMismatch, true},
+                                                        {"-", mError::kTypeMismatch, true},
+                                                        {".", mError::kTypeMismatch, true},
+                                                        {"\t5", mError::kTypeMismatch, true}};
+    for (const auto& [text, expected, fails] : cases) {
+        int value = 0;
+        const std::optional<Failure> failure = FailureOf([&, t = text] { value = mString::ToInt16(t); });
+        EXPECT_EQ(failure ? failure->Number() : value, expected) << text;
+        EXPECT_EQ(failure.has_value(), fails) << text;
+        EXPECT_EQ(mString::IsNumeric(text), !fails || expected == mError::kOverflow) << text;
+    }
+}
 
 // Every line with its break, as "text|break" pairs; the break shown as C (CR), L (LF) or CL.
 std::vector<std::string> LinesOf(std::string_view text) {

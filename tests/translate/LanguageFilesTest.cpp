@@ -82,9 +82,4 @@ TEST(LanguageFiles, EveryTextIsReadableWhole) {
     }
 }
 
-TEST(LanguageFiles, NameTheirLanguage) {
-    EXPECT_EQ(KeysOf(kLanguages[0]).at("FileInfo/LanguageName"), "English");
-    EXPECT_EQ(KeysOf(kLanguages[1]).at("FileInfo/LanguageName"), "Deutsch");
-}
-
 }  // namespace
