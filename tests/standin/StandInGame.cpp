@@ -4,16 +4,16 @@
 // then also shows a person what it received until the window is closed.
 //
 // The record, launch-record.txt beside this executable, holds the working directory and then each argument
-// (argv[1] on), each ended by a NUL, which no argument can hold. It is written under another name and
-// renamed, so a record that exists is complete.
+// (argv[1] on), each ended by a NUL, which no argument can hold. It replaces its file whole, so a record
+// that exists is complete.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <random>
 #include <string>
 #include <system_error>
 
+#include "platform/FileSystem.h"
 #include "platform/NativePath.h"
 #include "platform/Platform.h"
 #ifdef PAVONEL_STANDIN_WITH_WINDOW
@@ -34,27 +34,6 @@ std::string RecordText(const fs::path& directory, int argc, char** argv) {
     for (int i = 1; i < argc; ++i)
         text += std::string(argv[i]) + '\0';
     return text;
-}
-
-bool WriteWhole(const fs::path& path, const std::string& text) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out << text;
-    out.close();
-    return !out.fail();
-}
-
-// A random part in the temporary name keeps two copies started at once from writing the same file.
-bool WriteAtomically(const fs::path& path, const std::string& text) {
-    fs::path part = path;
-    part += "." + std::to_string(std::random_device{}()) + ".part";
-    std::error_code error;
-    if (WriteWhole(part, text)) {
-        fs::rename(part, path, error);
-        if (!error)
-            return true;
-    }
-    fs::remove(part, error);
-    return false;
 }
 
 bool AppendLog(const fs::path& directory, int argc) {
@@ -78,7 +57,7 @@ int main(int argc, char** argv) {
     if (!logged)
         std::cerr << "stand-in game: cannot append to tarvo.log in " << directory << '\n';
     const fs::path record = platform::PathOf(Os().ProgramDirectory()) / "launch-record.txt";
-    if (!WriteAtomically(record, RecordText(directory, argc, argv))) {
+    if (!platform::ReplaceFile(platform::TextOf(record), RecordText(directory, argc, argv))) {
         std::cerr << "stand-in game: cannot write " << record << '\n';
         return EXIT_FAILURE;
     }
