@@ -8,7 +8,6 @@
 #include "app/Application.h"
 #include "app/ErrorReport.h"
 #include "app/PublicObjects.h"
-#include "app/mMutex.h"
 #include "error/mError.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
@@ -76,14 +75,6 @@ TEST_F(mMainTest, ErrorReportNamesTheActiveProfilesGame) {
     const std::string text = ComposeErrorReport(Failure(5, "x")).text;
     EXPECT_NE(text.find("\r\nTarvolin-Version: Tarvolin\r\nTarvolin-Path: /games/Tarvolin/tarvolin.exe"),
               std::string::npos);
-}
-
-TEST_F(mMainTest, ClosingReleasesBothProgramWideObjectsAndTheMarkerIsCreated) {
-    mMutex::CreateMutex();
-    EXPECT_EQ(platform.mutexes, (std::vector<std::string>{"Pavonel_MTX"}));
-    mMain::ClosePublicObjects();
-    EXPECT_EQ(g_cApp, nullptr);
-    EXPECT_EQ(g_cTranslate, nullptr);
 }
 
 }  // namespace

@@ -7,48 +7,12 @@
 
 #include "app/PublicObjects.h"
 #include "error/mError.h"
-#include "profiles/Profile.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
 #include "support/Portable.h"
 #include "translate/cTranslate.h"
 
 namespace {
-
-// What LoadData puts into the controls for `profile`.
-MainWindowValues ShownAs(const Profile& profile) {
-    return {profile.TarvolinPath(),
-            profile.LogMessages() ? 1 : 0,
-            profile.Freeplay() ? 1 : 0,
-            profile.UsePreDefinedResolution(),
-            profile.PreDefinedResolution() - 1,
-            std::to_string(profile.ResolutionWidth()),
-            std::to_string(profile.ResolutionHeight()),
-            profile.ScenarioPath(),
-            profile.GraphicPakPath(),
-            profile.Refresh() - 1};
-}
-
-// The window's composition agrees with the profile's for every kind of profile, so the self-check fires
-// only when the two really part.
-TEST(frmMainCommandLine, AgreesWithTheProfilesOwn) {
-    std::vector<Profile> profiles(4);
-    profiles[1].SetLogMessages(false);
-    profiles[1].SetUsePreDefinedResolution(false);
-    profiles[1].SetResolutionWidth(800);
-    profiles[1].SetResolutionHeight(600);
-    profiles[1].SetRefresh(0);
-    profiles[2].SetPreDefinedResolution(3);
-    profiles[2].SetScenarioPath("scenarios/demo");
-    profiles[2].SetGraphicPakPath("pak128.pak");
-    profiles[3].SetRefresh(-2);
-    profiles[3].SetFreeplay(false);
-    for (const Profile& profile : profiles)
-        EXPECT_EQ(frmMainRules::GetCmdLineParameters(ShownAs(profile)), profile.GetCmdLineParameters());
-    EXPECT_EQ(frmMainRules::GetCmdLineParameters(ShownAs(profiles[1])), "-screensize 800x600");
-    EXPECT_EQ(frmMainRules::GetCmdLineParameters(ShownAs(profiles[2])),
-              "-log -res 3 -refresh 1 -scenario scenarios/demo-graphicpack pak128.pak");
-}
 
 // A greyed check box is not a checked one; the fields' texts go in as typed.
 TEST(frmMainCommandLine, ReadsTheControlsAsTheyAre) {

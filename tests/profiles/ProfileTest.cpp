@@ -7,6 +7,7 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
+#include "mainwindow/frmMainRules.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
 #include "support/Portable.h"
@@ -26,7 +27,22 @@ protected:
     Profile profile;
 };
 
-// A profile's settings (the defaults of a new one where a case gives none) and its command line.
+// What LoadData puts into the controls for `profile`.
+MainWindowValues ShownAs(const Profile& profile) {
+    return {profile.TarvolinPath(),
+            profile.LogMessages() ? 1 : 0,
+            profile.Freeplay() ? 1 : 0,
+            profile.UsePreDefinedResolution(),
+            profile.PreDefinedResolution() - 1,
+            std::to_string(profile.ResolutionWidth()),
+            std::to_string(profile.ResolutionHeight()),
+            profile.ScenarioPath(),
+            profile.GraphicPakPath(),
+            profile.Refresh() - 1};
+}
+
+// A profile's settings (the defaults of a new one where a case gives none) and its command line, which
+// the main window composes alike from its controls.
 struct CommandLineCase {
     bool log = true, standard = true, freeplay = false;
     int16_t resolution = 2, width = 640, height = 480, refresh = 1;
@@ -68,6 +84,7 @@ TEST_F(ProfileTest, CommandLineHasTheGamesArgumentsInItsOrder) {
         p.SetScenarioPath(c.scenario);
         p.SetGraphicPakPath(c.pak);
         EXPECT_EQ(p.GetCmdLineParameters(), c.expected);
+        EXPECT_EQ(frmMainRules::GetCmdLineParameters(ShownAs(p)), c.expected);
     }
     EXPECT_EQ(Profile().GetCmdLineParameters(), "-log -res 2 -refresh 1") << "a new profile";
 }

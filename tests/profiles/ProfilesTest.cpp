@@ -105,39 +105,30 @@ TEST_F(ProfilesTest, RemembersTheActiveProfile) {
     EXPECT_EQ(profiles.ReadFromIni_ActiveProfileName(), "profile_Race");
 }
 
-TEST_F(ProfilesTest, NewProfileFromTheEditDialogBecomesActive) {
+// A new profile from the edit dialog becomes active; one whose name is taken in any case is refused.
+TEST_F(ProfilesTest, NewProfileFromTheEditDialogBecomesActiveUnlessItsNameIsTaken) {
     Profiles& all = g_cApp->Profiles();
     all.CreateStandardProfile();
     EXPECT_EQ(all.ShowAddNewDialog(), nullptr) << "cancelled";
-    ui.editProfile = [](int32_t mode, Profile& profile) {
+    std::string name = "profile_Race";
+    ui.editProfile = [&name](int32_t mode, Profile& profile) {
         EXPECT_EQ(mode, 1);
-        profile.SetProfileName("profile_Race");
-        profile.SetProfileDescription("Fast");
+        profile.SetProfileName(name);
         return true;
     };
     Profile* added = all.ShowAddNewDialog();
     ASSERT_NE(added, nullptr);
     EXPECT_EQ(g_cApp->ActiveProfile(), added);
     EXPECT_EQ(added->Key, "profile_Race");
-    EXPECT_TRUE(added->IsNewProfile());
-    EXPECT_TRUE(added->DataChanged());
-    EXPECT_EQ(all.Count(), 2);
-}
-
-TEST_F(ProfilesTest, NewProfileWithATakenNameIsRefused) {
-    Profiles& all = g_cApp->Profiles();
-    all.Add("profile_Race", "profile_Race").SetProfileName("profile_Race");
-    ui.editProfile = [](int32_t, Profile& profile) {
-        profile.SetProfileName("PROFILE_race");
-        return true;
-    };
+    EXPECT_TRUE(added->IsNewProfile() && added->DataChanged());
+    name = "PROFILE_race";
     EXPECT_EQ(all.ShowAddNewDialog(), nullptr);
-    EXPECT_EQ(all.Count(), 1);
+    EXPECT_EQ(all.Count(), 2);
+    EXPECT_EQ(g_cApp->ActiveProfile(), added);
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].prompt,
               "A profile named \"race\" already exists.\r\nPlease choose a different name.");
     EXPECT_EQ(ui.messages[0].style, vbOKOnly);
-    EXPECT_EQ(g_cApp->ActiveProfile(), nullptr);
 }
 
 // Every caption the edit window lets through comes back from the settings file as the same profile; the
