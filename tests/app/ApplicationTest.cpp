@@ -1,5 +1,5 @@
 // The application object: where its files lie, loading the settings and the active profile, the options,
-// and the documents and pages it opens.
+// and the documents it opens (the about window opens its web page and mail).
 #include "app/Application.h"
 
 #include <gtest/gtest.h>
@@ -67,16 +67,6 @@ TEST_F(ApplicationTest, TheFaqIsOpenedOrNamedAsMissing) {
     EXPECT_EQ(ui.messages[0].prompt,
               "The file could not be found. Please check the path.\r\n" + dir.File("doc/FAQ_FR.txt"));
     EXPECT_EQ(ui.messages[0].style, vbOKOnly);
-}
-
-TEST_F(ApplicationTest, WebPageAndMailGoToTheShell) {
-    g_cApp->ShowPavonelWebpage(3);
-    g_cApp->ContactAuthor(4);
-    EXPECT_EQ(platform.calls,
-              (std::vector<ShellCall>{{3, "open", Application::WebpageAddress(), "", "", kSwShowNormal},
-                                      {4, "open", Application::ContactAddress(), "", "", kSwShowNormal}}));
-    EXPECT_TRUE(Application::WebpageAddress().starts_with("https://"));
-    EXPECT_TRUE(Application::ContactAddress().starts_with("mailto:"));
 }
 
 TEST_F(ApplicationTest, RemembersTheLastActiveProfile) {
