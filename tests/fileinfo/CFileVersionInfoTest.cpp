@@ -16,6 +16,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include "fileinfo/LittleEndian.h"
 #include "fileinfo/PeImage.h"
@@ -173,29 +174,24 @@ TEST(VersionResource, ReadsFixedPartStringsAndTranslations) {
               "e\xEF\xBF\xBD\xE6\xB8\xB8\xE6\x88\x8F \xF0\x9F\x8E\xAE");
 }
 
-// The fixture's two tables renamed to `first` and `second`, and its one translation replaced.
-struct TableChoice {
-    std::u16string first, second;
-    uint32_t translation;
-    std::string chosen;
-};
-
 TEST(VersionResource, PicksTheTableTheTranslationListNamesElseAnEnglishOne) {
-    const TableChoice choices[] = {{u"040904B0", u"040704E4", 0x04E40407, "040704E4"},  // the list decides
-                                   {u"040904b0", u"040704E4", 0x04B00409, "040904b0"},  // in any case
-                                   // Else US English in Unicode, Latin-1, neutral, else the first table.
-                                   {u"040904E4", u"040904B0", 0x04B00407, "040904B0"},
-                                   {u"040704B0", u"040904E4", 0x04B0040C, "040904E4"},
-                                   {u"040704B0", u"04090000", 0x04B0040C, "04090000"},
-                                   {u"040C04B0", u"041004B0", 0x04B00407, "040C04B0"}};
-    for (const TableChoice& choice : choices) {
+    // The fixture's two tables renamed to the first two, its one translation replaced, and the table chosen.
+    const std::tuple<std::u16string, std::u16string, uint32_t, std::string> choices[] = {
+        {u"040904B0", u"040704E4", 0x04E40407, "040704E4"},  // the list decides
+        {u"040904b0", u"040704E4", 0x04B00409, "040904b0"},  // in any case
+        // Else US English in Unicode, Latin-1, neutral, else the first table.
+        {u"040904E4", u"040904B0", 0x04B00407, "040904B0"},
+        {u"040704B0", u"040904E4", 0x04B0040C, "040904E4"},
+        {u"040704B0", u"04090000", 0x04B0040C, "04090000"},
+        {u"040C04B0", u"041004B0", 0x04B00407, "040C04B0"}};
+    for (const auto& [first, second, translation, chosen] : choices) {
         std::string bytes = Resource();
-        Replace(bytes, Utf16(u"040904B0"), Utf16(choice.first));
-        Replace(bytes, Utf16(u"040704E4"), Utf16(choice.second));
-        Replace(bytes, Le32(0x04E40407), Le32(choice.translation));
+        Replace(bytes, Utf16(u"040904B0"), Utf16(first));
+        Replace(bytes, Utf16(u"040704E4"), Utf16(second));
+        Replace(bytes, Le32(0x04E40407), Le32(translation));
         std::optional<VersionResource> resource = VersionResource::Parse(bytes);
         ASSERT_TRUE(resource && resource->PreferredTable());
-        EXPECT_EQ(resource->PreferredTable()->translation, choice.chosen);
+        EXPECT_EQ(resource->PreferredTable()->translation, chosen);
     }
 }
 
