@@ -4,10 +4,15 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <system_error>
+#include <thread>
 
 #include "platform/ScopedEnvironment.h"
 #include "platform/posix/PosixPlatform.h"
@@ -15,16 +20,40 @@
 
 class ChildProcessTest : public ::testing::Test {
 protected:
-    void SetUp() override;
-    void TearDown() override;
+    void SetUp() override {
+        prctl(PR_GET_CHILD_SUBREAPER, &m_wasSubreaper);
+        prctl(PR_SET_CHILD_SUBREAPER, 1);
+        m_savedCurrent = std::filesystem::current_path();
+        std::filesystem::current_path(m_dir.Path());
+        // Wine only where a test puts it on PATH, also on a machine that has Debian's own.
+        m_platform.SetWineCandidates({"wine", "wine64"});
+        m_platform.SetTrustMarking(false);
+    }
+
+    void TearDown() override {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+        for (pid_t pid = 0; pid >= 0 && std::chrono::steady_clock::now() < deadline;) {
+            pid = waitpid(-1, nullptr, WNOHANG);
+            if (pid == 0)
+                std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        prctl(PR_SET_CHILD_SUBREAPER, m_wasSubreaper);
+        std::error_code ignored;
+        std::filesystem::current_path(m_savedCurrent, ignored);
+    }
 
     int32_t Open(const std::string& file, const std::string& parameters = "",
-                 const std::string& directory = "", const std::string& verb = "open");
-
-    std::string MakeFolder(const std::string& name);
+                 const std::string& directory = "", const std::string& verb = "open") {
+        return m_platform.ShellExec(0, verb, file, parameters, directory, kSwShowNormal);
+    }
 
     // Writes `bytes` to `name` in the test's folder with execute permission; returns the full path.
-    std::string WriteExecutable(const std::string& name, const std::string& bytes);
+    std::string WriteExecutable(const std::string& name, const std::string& bytes) {
+        const std::string path = m_dir.Write(name, bytes);
+        std::filesystem::permissions(path, std::filesystem::perms::owner_all,
+                                     std::filesystem::perm_options::add);
+        return path;
+    }
 
     TempDir m_dir;
     PosixPlatform m_platform;

@@ -1,9 +1,11 @@
 // The shell's "open" on Linux with real programs: the stand-in game, fakes of Wine and of the desktop's
-// handler, and everything that cannot be started.
+// handler, and everything that cannot be started. Then the running marker as another program sees it: a
+// lock file that cannot be locked exclusively while a launcher holds it, and can be once it has ended.
 #include "platform/posix/PosixPlatform.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -17,45 +19,31 @@
 #include <vector>
 
 #include "platform/ChildProcessTest.h"
+#include "platform/posix/RunningMarker.h"
 #include "platform/posix/ShellTarget.h"
 #include "support/StandInGame.h"
-#include "support/TempDir.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-TEST(ProgramDirectoryTest, IsTheFolderOfTheRunningExecutable) {
-    EXPECT_EQ(PosixPlatform().ProgramDirectory(),
-              fs::canonical(program_invocation_name).parent_path().string());
-}
-
 using PosixPlatformTest = ChildProcessTest;
 
+// In its own folder (given as its working directory) or in the launcher's (none given).
 TEST_F(PosixPlatformTest, TheGameGetsItsArgumentsAndWorkingDirectory) {
-    // The game's folder inside the test's folder, whether it is its working directory (else there is none,
-    // so it runs in the launcher's), its parameters and its arguments.
-    const std::tuple<std::string, bool, std::string, std::vector<std::string>> cases[] = {
-        {"Tarvolin",
-         true,
-         "-scenario \"Meine Karte 1.sve\"  \"\" a\\\"b \"x\ny\" b\\\\x\\",
-         {"-scenario", "Meine Karte 1.sve", "", "a\"b", "x\ny", "b\\\\x\\"}},
-        {"Spiele mit Leerzeichen/Tarvolin \xC3\x9C\x62\x65rsee \xE6\x97\x85",
-         true,
-         "-freeplay -refresh 2",
-         {"-freeplay", "-refresh", "2"}},
-        {"NoWorkingDirectory", false, "", {}},
-    };
-    for (const auto& [name, inGameFolder, parameters, arguments] : cases) {
-        SCOPED_TRACE(name);
-        const StandInGame game(m_dir.Path() / name);
+    for (const bool inGameFolder : {true, false}) {
+        SCOPED_TRACE(inGameFolder);
+        const StandInGame game(m_dir.Path() /
+                               (inGameFolder ? "Spiele mit Leerzeichen/\xC3\x9C\x62\x65rsee \xE6\x97\x85"
+                                             : "NoWorkingDirectory"));
         const fs::path folder = fs::path(game.Path()).parent_path();
-
-        ASSERT_EQ(Open(game.Path(), parameters, inGameFolder ? folder.string() : ""), kShellExecOk);
-
+        ASSERT_EQ(Open(game.Path(), "-scenario \"Meine Karte 1.sve\"  \"\" a\\\"b \"x\ny\" b\\\\x\\",
+                       inGameFolder ? folder.string() : ""),
+                  kShellExecOk);
         const std::optional<LaunchRecord> record = game.WaitForRecord();
         ASSERT_TRUE(record.has_value());
-        EXPECT_EQ(record->arguments, arguments);
+        EXPECT_EQ(record->arguments, (std::vector<std::string>{"-scenario", "Meine Karte 1.sve", "", "a\"b",
+                                                               "x\ny", "b\\\\x\\"}));
         EXPECT_EQ(record->directory, fs::canonical(inGameFolder ? folder : m_dir.Path()));
     }
 }
@@ -86,8 +74,8 @@ TEST_F(PosixPlatformTest, AProgramIsStartedDetached) {
 
 // wine64 comes first on PATH, yet wine is preferred while there is one.
 TEST_F(PosixPlatformTest, AWindowsProgramIsStartedThroughWineElseWine64) {
-    const std::string folder = MakeFolder("Game Folder");
     const std::string program = m_dir.Write("Game Folder/TARVOLIN.EXE", std::string("MZ\x90\0\x03\0", 6));
+    const std::string folder = m_dir.File("Game Folder");
     const StandInGame wine64(m_dir.Path() / "bin64", "wine64");
     const StandInGame wine(m_dir.Path() / "bin", "wine");
     m_environment.Set("PATH", m_dir.File("bin64") + ":" + m_dir.File("bin"));
@@ -117,9 +105,9 @@ TEST_F(PosixPlatformTest, WineIsTheFirstCandidateThatExists) {
 TEST_F(PosixPlatformTest, DocumentsFoldersAndAddressesGoToTheDesktopHandler) {
     const StandInGame handler(m_dir.Path() / "bin", "xdg-open");
     m_environment.Set("PATH", m_dir.File("bin"));
-    const std::string work = MakeFolder("doc");
     const std::string document = m_dir.Write("doc/FAQ_EN.txt", "faq");
-    const std::string folder = MakeFolder("game folder.exe");
+    const std::string work = m_dir.File("doc"), folder = m_dir.File("game folder.exe");
+    fs::create_directory(folder);
     // What is opened, and what the handler is given: addresses untouched, a file by its full path.
     const std::pair<std::string, std::string> cases[] = {
         {"FAQ_EN.txt", document},
@@ -139,37 +127,32 @@ TEST_F(PosixPlatformTest, DocumentsFoldersAndAddressesGoToTheDesktopHandler) {
     }
 }
 
-// By name only, the program is looked for in the working directory, not in the current one.
-TEST_F(PosixPlatformTest, OpensAProgramByNameInTheWorkingDirectoryWithTheOpenVerbOnly) {
-    const StandInGame game(m_dir.Path() / "game");
-    const std::pair<std::string, int32_t> cases[] = {{"", kShellExecOk},
-                                                     {"OPEN", kShellExecOk},
-                                                     {"print", kSeErrNoAssociation},
-                                                     {"opened", kSeErrNoAssociation}};
-    for (const auto& [verb, expected] : cases)
-        EXPECT_EQ(Open("tarvolin.exe", "", m_dir.File("game"), verb), expected) << verb;
-}
-
-// Names are relative to the test's folder, the current one.
-TEST_F(PosixPlatformTest, WhatIsMissingDecidesTheCode) {
+// What is missing, and the verb, decide the code. Names are relative to the test's folder, the current one;
+// a program named without a folder is looked for in the working directory, not in the current one.
+TEST_F(PosixPlatformTest, WhatIsMissingAndTheVerbDecideTheCode) {
+    const StandInGame game(m_dir.Path() / "standin");
     m_dir.Write("game", "#!/bin/sh\n");
-    MakeFolder("folder");
-    // The file, the working directory, and the code; the last three only look like addresses.
-    const std::tuple<std::string, std::string, int32_t> cases[] = {
-        {"absent.exe", "", kSeErrFileNotFound},
-        {"absent.exe", "folder", kSeErrFileNotFound},
-        {"nowhere/absent.exe", "", kSeErrPathNotFound},
-        {"game", "nowhere", kSeErrPathNotFound},
-        {"game", "game", kSeErrPathNotFound},
-        {"game", std::string("folder\0x", 8), kSeErrPathNotFound},
-        {"", "", kSeErrFileNotFound},
-        {std::string("game\0x", 6), "", kSeErrFileNotFound},
-        {"C://Games/tarvolin.exe", "", kSeErrPathNotFound},
-        {"1http://example.org/", "", kSeErrPathNotFound},
-        {"see mailto:someone@example.org", "", kSeErrFileNotFound},
+    fs::create_directory(m_dir.File("folder"));
+    // The file, the working directory, the verb and the code; the last three files only look like addresses.
+    const std::tuple<std::string, std::string, std::string, int32_t> cases[] = {
+        {"tarvolin.exe", "standin", "", kShellExecOk},
+        {"tarvolin.exe", "standin", "OPEN", kShellExecOk},
+        {"tarvolin.exe", "standin", "print", kSeErrNoAssociation},
+        {"tarvolin.exe", "standin", "opened", kSeErrNoAssociation},
+        {"absent.exe", "", "open", kSeErrFileNotFound},
+        {"absent.exe", "folder", "open", kSeErrFileNotFound},
+        {"nowhere/absent.exe", "", "open", kSeErrPathNotFound},
+        {"game", "nowhere", "open", kSeErrPathNotFound},
+        {"game", "game", "open", kSeErrPathNotFound},
+        {"game", std::string("folder\0x", 8), "open", kSeErrPathNotFound},
+        {"", "", "open", kSeErrFileNotFound},
+        {std::string("game\0x", 6), "", "open", kSeErrFileNotFound},
+        {"C://Games/tarvolin.exe", "", "open", kSeErrPathNotFound},
+        {"1http://example.org/", "", "open", kSeErrPathNotFound},
+        {"see mailto:someone@example.org", "", "open", kSeErrFileNotFound},
     };
-    for (const auto& [file, directory, expected] : cases)
-        EXPECT_EQ(Open(file, "", directory), expected) << file << " in " << directory;
+    for (const auto& [file, directory, verb, expected] : cases)
+        EXPECT_EQ(Open(file, "", directory, verb), expected) << verb << " " << file << " in " << directory;
 }
 
 // Once with a Wine and a desktop handler that cannot run, once with neither on PATH.
@@ -194,7 +177,8 @@ TEST_F(PosixPlatformTest, AFileThatCannotBeStartedGetsTheShellsCode) {
         {"game.exe", noInterpreter, true, kSeErrFileNotFound},
         {"game.txt", "#!/bin/sh\n", false, kSeErrNoAssociation},
     };
-    for (const std::string& path : {m_dir.File("broken"), MakeFolder("empty")}) {
+    fs::create_directory(m_dir.File("empty"));
+    for (const std::string& path : {m_dir.File("broken"), m_dir.File("empty")}) {
         m_environment.Set("PATH", path);
         int index = 0;
         for (const auto& [file, content, executable, expected] : cases) {
@@ -206,16 +190,86 @@ TEST_F(PosixPlatformTest, AFileThatCannotBeStartedGetsTheShellsCode) {
     }
 }
 
-// The options window proposes this editor for the log file: an installed desktop editor, in the order of
-// the list, else the desktop's own handler.
-TEST(TextEditorTest, TheFirstInstalledEditorIsProposed) {
-    TempDir bin;
-    EXPECT_EQ(platform::InstalledTextEditor(bin.Path().string()), "xdg-open");
-    for (const char* name : {"mousepad", "kate", "gedit"})
-        bin.Write(name, "#!/bin/sh\n");
-    fs::permissions(bin.Path() / "mousepad", fs::perms::owner_exec, fs::perm_options::add);
-    fs::permissions(bin.Path() / "kate", fs::perms::owner_exec, fs::perm_options::add);
-    EXPECT_EQ(platform::InstalledTextEditor(bin.Path().string()), "kate");
+// What an installer does (flock -n -x): try an exclusive lock without waiting, and let it go at once.
+bool SomeoneHolds(const std::string& path) {
+    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const bool held = flock(fd, LOCK_EX | LOCK_NB) != 0;
+    close(fd);
+    return held;
+}
+
+// Each test has a runtime folder of its own, so it never meets a marker that an earlier one still holds.
+// Child processes stand for other copies of the launcher; the fixture reaps them and whatever they start.
+class RunningMarkerTest : public ChildProcessTest {
+protected:
+    void SetUp() override {
+        ChildProcessTest::SetUp();
+        m_environment.Set("XDG_RUNTIME_DIR", m_dir.Path().string());
+    }
+
+    const std::string m_name = "PavonelTest_" + std::to_string(getpid());
+};
+
+// In the runtime folder, else in /tmp per user; a second copy of the launcher creates it again.
+TEST_F(RunningMarkerTest, IsHeldWhileTheProcessRunsInTheRuntimeFolderElseInTmp) {
+    ASSERT_TRUE(m_platform.CreateNamedMutex(m_name));
+    EXPECT_TRUE(SomeoneHolds(m_dir.File(m_name + ".lock")));
+    EXPECT_TRUE(PosixPlatform().CreateNamedMutex(m_name));
+
+    const std::string expected = "/tmp/" + m_name + "-" + std::to_string(getuid()) + ".lock";
+    for (const char* runtime : {"", "relative/run", "/nonexistent/run"}) {
+        m_environment.Set("XDG_RUNTIME_DIR", runtime);
+        EXPECT_EQ(platform::RunningMarkerPath(m_name), expected) << runtime;
+    }
+    m_environment.Set("XDG_RUNTIME_DIR", std::nullopt);
+    ASSERT_TRUE(m_platform.CreateNamedMutex(m_name));
+    EXPECT_TRUE(SomeoneHolds(expected));
+    fs::remove(expected);
+}
+
+TEST_F(RunningMarkerTest, AMarkerThatCannotBeAFileIsRefused) {
+    fs::create_directory(m_dir.File(m_name + ".lock"));
+
+    for (const std::string& name : {std::string(), std::string("."), std::string(".."),
+                                    std::string("Pavonel/MTX"), std::string("Pavonel\0MTX", 11), m_name}) {
+        EXPECT_FALSE(m_platform.CreateNamedMutex(name)) << name;
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_dir.Path()), fs::directory_iterator()), 1);
+}
+
+// The game outlives the launcher that started it: the marker ends with the launcher, not with the game.
+TEST_F(RunningMarkerTest, EndsWithTheLauncherAndNotWithAProgramItStarted) {
+    int done[2];
+    ASSERT_EQ(pipe2(done, O_CLOEXEC), 0);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        close(done[0]);
+        const pid_t program = platform::HoldRunningMarker(m_name) ? fork() : -1;
+        if (program == 0) {
+            execl("/bin/sleep", "sleep", "10", static_cast<char*>(nullptr));
+            _exit(1);
+        }
+        _exit(write(done[1], &program, sizeof program) == sizeof program ? 0 : 1);
+    }
+    close(done[1]);
+    pid_t program = -1;
+    EXPECT_EQ(read(done[0], &program, sizeof program), static_cast<ssize_t>(sizeof program));
+    char nothing = 0;
+    // End of file once the launcher has ended and the program has gone through exec.
+    EXPECT_EQ(read(done[0], &nothing, 1), 0);
+    close(done[0]);
+    ASSERT_EQ(waitpid(child, nullptr, 0), child);
+    ASSERT_GT(program, 0);
+
+    EXPECT_EQ(kill(program, 0), 0);
+    // The kernel may drop the marker's last reference a moment after the exec that closed it.
+    for (int tries = 0; tries < 100 && SomeoneHolds(m_dir.File(m_name + ".lock")); ++tries)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_FALSE(SomeoneHolds(m_dir.File(m_name + ".lock")));
+    kill(program, SIGKILL);
 }
 
 }  // namespace

@@ -32,15 +32,13 @@ const std::pair<std::string, std::vector<std::string>> kCases[] = {
     {std::string("a b\0c d", 7), {"a", "b"}},
 };
 
-TEST(SplitWindowsCommandLineTest, GivesTheArgumentsTheRuntimeWouldGive) {
-    for (const auto& [text, expected] : kCases)
+// Split as the runtime splits; joined, every case's arguments split back into themselves, and plain ones
+// stay unquoted.
+TEST(WindowsCommandLineTest, SplitsAsTheRuntimeAndJoinsBack) {
+    for (const auto& [text, expected] : kCases) {
         EXPECT_EQ(SplitWindowsCommandLine(text), expected) << text;
-}
-
-// Joined, every case's arguments split back into themselves; plain ones stay unquoted.
-TEST(JoinWindowsCommandLineTest, SplitsBackIntoTheSameArguments) {
-    for (const auto& [text, expected] : kCases)
         EXPECT_EQ(SplitWindowsCommandLine(JoinWindowsCommandLine(expected)), expected) << text;
+    }
     const std::vector<std::string> awkward = {R"(end\\)", R"(a\\\"b)", R"(\)", "tab\\there", "a\tb", "Größe"};
     EXPECT_EQ(SplitWindowsCommandLine(JoinWindowsCommandLine(awkward)), awkward);
     EXPECT_EQ(JoinWindowsCommandLine({"-log", "-res", "2"}), "-log -res 2");

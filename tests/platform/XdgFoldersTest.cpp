@@ -1,8 +1,10 @@
-// The special folders on a freedesktop system, with every variable they depend on chosen by the test.
+// Where things are on a freedesktop system: the special folders, with every variable they depend on chosen
+// by the test, the program's own folders, and the text editor it proposes.
 #include <gtest/gtest.h>
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -11,6 +13,7 @@
 
 #include "platform/ScopedEnvironment.h"
 #include "platform/posix/PosixPlatform.h"
+#include "platform/posix/ShellTarget.h"
 #include "support/TempDir.h"
 
 namespace fs = std::filesystem;
@@ -90,34 +93,45 @@ TEST(SpecialFolderTest, WithoutAUsableHomeTheAccountsHomeFolderIsUsed) {
 }
 
 // A program folder nobody may write keeps the settings in the user's config folder; a program in a "bin"
-// folder beside share/pavonel takes its texts from there.
+// folder beside share/pavonel is installed, even where it may write, and takes its texts from there.
 TEST(SpecialFolderTest, AnInstalledProgramHasItsSettingsAndDataInTheirOwnFolders) {
-    class At : public PosixPlatform {
-    public:
-        explicit At(std::string folder) : m_folder(std::move(folder)) {}
-        std::string ProgramDirectory() override { return m_folder; }
-
-    private:
-        std::string m_folder;
-    };
+    struct At : PosixPlatform {
+        std::string folder;
+        std::string ProgramDirectory() override { return folder; }
+    } installed;
     const TempDir dir;
+    installed.folder = dir.File("usr/bin");
+    const std::string config = dir.File("config/Pavonel"), share = dir.File("usr/share/pavonel");
     ScopedEnvironment environment;
     environment.Set("XDG_CONFIG_HOME", dir.File("config"));
-    fs::create_directories(dir.Path() / "usr" / "bin");
-    At installed(dir.File("usr/bin"));
-    EXPECT_EQ(installed.SettingsDirectory(), dir.File("usr/bin"));
-    EXPECT_EQ(installed.DataDirectory(), dir.File("usr/bin"));
-    fs::create_directories(dir.Path() / "usr" / "share" / "pavonel");
-    EXPECT_EQ(installed.SettingsDirectory(),
-              dir.File("config/Pavonel"));  // installed, even where it may write
+    auto folders = [&] { return installed.SettingsDirectory() + " " + installed.DataDirectory(); };
+    fs::create_directories(installed.folder);
+    EXPECT_EQ(folders(), installed.folder + " " + installed.folder);
+    fs::create_directories(share);
+    EXPECT_EQ(folders(), config + " " + share);
     fs::remove_all(dir.Path() / "usr" / "share");
-    fs::permissions(dir.Path() / "usr" / "bin",
+    fs::permissions(installed.folder,
                     fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                     fs::perm_options::remove);
-    EXPECT_EQ(installed.SettingsDirectory(), dir.File("config/Pavonel"));  // a copy nobody may write beside
-    fs::create_directories(dir.Path() / "usr" / "share" / "pavonel");
-    EXPECT_EQ(installed.DataDirectory(), dir.File("usr/share/pavonel"));
-    fs::permissions(dir.Path() / "usr" / "bin", fs::perms::owner_write, fs::perm_options::add);
+    EXPECT_EQ(folders(), config + " " + installed.folder);
+}
+
+TEST(ProgramDirectoryTest, IsTheFolderOfTheRunningExecutable) {
+    EXPECT_EQ(PosixPlatform().ProgramDirectory(),
+              fs::canonical(program_invocation_name).parent_path().string());
+}
+
+// The options window proposes this editor for the log file: an installed desktop editor, in the order of
+// the list, else the desktop's own handler.
+TEST(TextEditorTest, TheFirstInstalledEditorIsProposed) {
+    TempDir bin;
+    EXPECT_EQ(platform::InstalledTextEditor(bin.Path().string()), "xdg-open");
+    for (const char* name : {"mousepad", "kate", "gedit"}) {
+        bin.Write(name, "#!/bin/sh\n");
+        if (name != std::string("gedit"))
+            fs::permissions(bin.Path() / name, fs::perms::owner_exec, fs::perm_options::add);
+    }
+    EXPECT_EQ(platform::InstalledTextEditor(bin.Path().string()), "kate");
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
-#include "error/mError.h"
 #include "storage/cIni_Application.h"
 #include "storage/cIni_Options.h"
 #include "storage/cIni_Profile.h"
@@ -13,17 +12,11 @@
 
 namespace {
 
-class CompanionTest : public AppFixture {
-protected:
-    cIni_Profile Profile(const std::string& name) const {
-        cIni_Profile profile;
-        profile.SetProfileName(name);
-        return profile;
-    }
-};
+using CompanionTest = AppFixture;
 
 TEST_F(CompanionTest, FreshProgramFolderGivesTheDefaults) {
-    cIni_Profile profile = Profile("profile_New");
+    cIni_Profile profile;
+    profile.SetProfileName("profile_New");
     EXPECT_TRUE(profile.Read_LogMessages() && profile.Read_Freeplay() &&
                 profile.Read_UsePreDefinedResolution());
     EXPECT_EQ((std::vector<int>{profile.Read_PreDefinedResolution(), profile.Read_ResolutionWidth(),
@@ -52,18 +45,6 @@ TEST_F(CompanionTest, OtherSectionsLandUnderTheirNames) {
         "APPVERSION=" +
             Application::AppVersionText() +
             "\r\n[OPTIONS]\r\nEDITORPATH=/usr/bin/gedit\r\nLANGUAGE=DE\r\nSTARTTARVOLINDIALOG=0\r\n");
-}
-
-TEST_F(CompanionTest, BadIntegerFailsWithTheKeyOperationOnTheTrail) {
-    const std::pair<const char*, int32_t> cases[] = {{"12px", mError::kTypeMismatch},
-                                                     {"-32769", mError::kOverflow}};
-    for (const auto& [text, number] : cases) {
-        WriteIni(std::string("[profile_X]\r\nRES_WIDTH=") + text + "\r\n");
-        std::optional<Failure> failure = FailureOf([&] { Profile("profile_X").Read_ResolutionWidth(); });
-        ASSERT_TRUE(failure) << text;
-        EXPECT_EQ(failure->Number(), number);
-        EXPECT_EQ(TrailOf(*failure).front(), "cIni_Profile.Read_ResolutionWidth");
-    }
 }
 
 TEST_F(CompanionTest, WithoutTheApplicationTheFileIsAbsent) {

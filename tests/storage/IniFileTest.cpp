@@ -1,14 +1,18 @@
-// The rules a settings file written by hand or by another tool is read with, and what a write does to the
-// bytes of the file: only the line it must, everything else as it was.
+// The rules a settings file written by hand or by another tool is read with, what a write does to the
+// bytes of the file (only the line it must, everything else as it was), and the typed access above them.
 #include "storage/iniFile.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
+#include "error/mError.h"
 #include "storage/IniStore.h"
+#include "storage/mIni.h"
+#include "support/FailureMatchers.h"
 #include "support/TempDir.h"
 
 namespace {
@@ -149,6 +153,44 @@ TEST_F(IniFileTest, ReadsBackWhatWasWritten) {
     EXPECT_EQ(dir.Read("test.ini"), "[S]\r\nk=first\r\n[T]\r\nk=second\r\n");
     EXPECT_EQ(iniFile::Read(file, "S", "k", "d", 255) + "|" + iniFile::Read(file, "T", "k", "d", 255),
               "first|second");
+}
+
+TEST_F(IniFileTest, AbsentArgumentsRaiseInvalidValueEmptyOnesDoNot) {
+    const mIni::IniArg absent = std::nullopt;
+    const std::vector<std::string> read = {"mIni.ReadFromIni"};
+    const std::vector<std::string> write = {"mIni.WriteBoolToIni", "mIni.WriteToIni"};
+    const std::tuple<std::function<void()>, int32_t, std::vector<std::string>> calls[] = {
+        {[&] { mIni::ReadFromIni(absent, "S", "k", ""); }, 2, read},
+        {[&] { mIni::ReadFromIni(file, absent, "k", ""); }, 2, read},
+        {[&] { mIni::ReadFromIni(file, "S", absent, ""); }, 2, read},
+        {[&] { mIni::WriteBoolToIni(file, "S", absent, true); }, 1, write}};
+    for (const auto& [call, number, trail] : calls) {
+        std::optional<Failure> failure = FailureOf(call);
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(std::tuple(failure->Number(), failure->Description(), TrailOf(*failure)),
+                  std::tuple(mError::kObjectError | number, "Invalid value", trail));
+    }
+    EXPECT_FALSE(std::filesystem::exists(file));
+    EXPECT_EQ(mIni::ReadFromIni("", "", "", "d"), "d");
+    mIni::WriteToIni(file, "", "", "v");
+    EXPECT_EQ(mIni::ReadFromIni(file, "", "", "d"), "v");
+}
+
+// A read gives at most 254 characters and stops at a NUL; only "1" reads as true, and an empty or missing
+// value gives the default.
+TEST_F(IniFileTest, TypedReadsAsThroughTheProgramsBuffer) {
+    using namespace std::string_literals;
+    dir.Write("test.ini", "[S]\nlong=" + std::string(300, 'a') +
+                              "\nnul=ab\0cd\none=1\nspaced=\" 1 \"\nword=true\nminus=-1\nzero=0\nyes=yes\n"
+                              "two=\" 2\"\nempty=\n"s);
+    EXPECT_EQ(mIni::ReadFromIni(file, "S", "long", ""), std::string(254, 'a'));
+    EXPECT_EQ(mIni::ReadFromIni(file, "S", "missing", std::string(300, 'd')), std::string(254, 'd'));
+    EXPECT_EQ(mIni::ReadFromIni(file, "S", "nul", ""), "ab");
+    std::string bools;  // each key read with the default false, then true
+    for (const char* key : {"one", "spaced", "word", "minus", "zero", "yes", "two", "empty", "missing"})
+        bools += std::to_string(mIni::ReadBoolFromIni(file, "S", key, false)) +
+                 std::to_string(mIni::ReadBoolFromIni(file, "S", key, true)) + " ";
+    EXPECT_EQ(bools, "11 11 00 00 00 00 00 01 01 ");
 }
 
 }  // namespace

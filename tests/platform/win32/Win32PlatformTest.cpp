@@ -1,13 +1,21 @@
 // The Windows platform files against the real Windows functions, as Wine or Windows provides them: a
-// stand-in game started by ShellExecuteA, a mutex that another process finds, and the prefix's folders.
+// stand-in game started by ShellExecuteA, a mutex that another process finds, the prefix's folders, and
+// shell links written and read back through the shell's own link object, one opened as a double click does.
 #include "platform/win32/Win32Platform.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
+// The shell's headers need the definitions of windows.h first.
+#include <commctrl.h>
+#include <shellapi.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <optional>
+#include <ostream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "app/mPath.h"
@@ -17,34 +25,21 @@
 #include "storage/iniFile.h"
 #include "support/StandInGame.h"
 #include "support/TempDir.h"
+#include "support/TrialProcess.h"
+
+void PrintTo(const ShellLink& link, std::ostream* out) {
+    *out << "{" << link.target << " | " << link.arguments << " | " << link.workingDirectory << " | "
+         << link.description << " | " << link.iconPath << "," << link.iconIndex << " | " << link.showCommand
+         << " | " << link.hotkey << "}";
+}
 
 namespace {
+
+namespace fs = std::filesystem;
 
 std::string Environment(const char* name) {
     const char* value = std::getenv(name);
     return value != nullptr ? value : "";
-}
-
-// The exit status of the mutex probe asked about `name`; nothing when it could not be run.
-std::optional<DWORD> ProbeExitCode(const std::string& name) {
-    std::string commandLine = "\"" PAVONEL_MUTEX_PROBE "\" \"" + name + "\"";
-    STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    if (!CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &process))
-        return std::nullopt;
-    DWORD code = 0;
-    const bool ended = WaitForSingleObject(process.hProcess, 30000) == WAIT_OBJECT_0 &&
-                       GetExitCodeProcess(process.hProcess, &code);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    return ended ? std::optional<DWORD>(code) : std::nullopt;
-}
-
-std::string UniqueName(const char* stem) {
-    return std::string(stem) + "-" + std::to_string(GetCurrentProcessId()) + "-" +
-           std::to_string(GetTickCount64());
 }
 
 TEST(Win32PlatformTest, ShellExecuteStartsTheGameWithItsParametersInItsFolder) {
@@ -74,10 +69,11 @@ TEST(Win32PlatformTest, ShellExecuteReportsWhatCannotBeStarted) {
 }
 
 TEST(Win32PlatformTest, TheMutexIsSeenByAnotherProcessWhileThisOneRuns) {
-    const std::string name = UniqueName("Pavonel_MTX-test");
-    EXPECT_EQ(ProbeExitCode(name), 1u);
+    const std::string name =
+        "Pavonel_MTX-test-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(GetTickCount64());
+    EXPECT_EQ(TrialProcess(PAVONEL_MUTEX_PROBE, {name}).Wait(), 1);
     ASSERT_TRUE(Win32Platform().CreateNamedMutex(name));
-    EXPECT_EQ(ProbeExitCode(name), 0u);
+    EXPECT_EQ(TrialProcess(PAVONEL_MUTEX_PROBE, {name}).Wait(), 0);
     // A second copy of the launcher creates the same marker without complaint.
     EXPECT_TRUE(Win32Platform().CreateNamedMutex(name));
 }
@@ -125,6 +121,78 @@ TEST(Win32PlatformTest, ProgramAndWindowsDirectoriesAreWhereWindowsSays) {
     const std::string windows = platform.WindowsDirectory();
     EXPECT_EQ(windows, Environment("SystemRoot"));
     EXPECT_TRUE(mPath::FileExists(windows + "\\notepad.exe")) << windows;
+}
+
+constexpr int32_t kNewFolder = -1;  // a folder of the test's own that does not exist yet
+
+// A link as the shortcut wizard writes it: started in the target's folder, shown as it was last.
+ShellLink LinkTo(const std::string& target, const std::string& arguments) {
+    return {target, arguments, platform::FolderOf(target) + "\\", "ShellLink Sample", "", 0, 5, 0};
+}
+
+// The show command in the link file's header (bytes 60 to 63). Wine's loader does not read it back (its
+// GetShowCmd answers SW_SHOWNORMAL after every load), so the tests look for it in the file.
+int32_t StoredShowCommand(const std::string& file) {
+    std::ifstream in(platform::PathOf(file), std::ios::binary);
+    int32_t show = -1;
+    in.seekg(60).read(reinterpret_cast<char*>(&show), sizeof show);
+    return show;
+}
+
+TEST(ShellLinkTest, ReplacesTheOldLinkAndReadsBackEveryField) {
+    // The folder (kCsidl... or kNewFolder), the target and the arguments.
+    const std::tuple<int32_t, const char*, const char*> cases[] = {
+        {kCsidlDesktop, "tarvolin.exe", "-log -res 2"},
+        {kCsidlStartMenu, "Spiele mit Leerzeichen/Größe/tarvolin.exe", ""},
+        {kNewFolder, "Größe/tarvolin.exe", "-scenario \"Meine Karte.sve\" -x Größe \"\""}};
+    for (const auto& [csidl, target, arguments] : cases) {
+        SCOPED_TRACE(target);
+        const TempDir dir;
+        Win32Platform platform;
+        const std::string folder =
+            csidl == kNewFolder ? dir.File("neu/Verknüpfungen") : platform.SpecialFolder(csidl);
+        fs::create_directories(platform::PathOf(folder));
+        const std::string file = folder + "\\Pavonel-Test-" + std::to_string(GetCurrentProcessId()) + ".lnk";
+        // The target exists, as the wizard's does, so that Resolve finds it where the link says.
+        ShellLink link = LinkTo(dir.Write(target, "MZ"), arguments);
+        const bool old = platform.WriteShellLink(file, LinkTo(link.target, "-alt"));
+        link.iconPath = link.target;
+        link.iconIndex = 2;
+        link.hotkey = MAKEWORD('T', HOTKEYF_CONTROL | HOTKEYF_ALT);
+        const bool written = platform.WriteShellLink(file, link);
+        std::optional<ShellLink> read = platform.ReadShellLink(file);
+        const int32_t show = StoredShowCommand(file);
+        fs::remove(platform::PathOf(file));
+        EXPECT_TRUE(old && written);
+        EXPECT_EQ(show, 5);
+        if (read)
+            read->showCommand = show;
+        EXPECT_EQ(read, link);
+    }
+}
+
+TEST(ShellLinkTest, MakesNoFolderAndReadsNothingFromAnotherFile) {
+    const TempDir dir;
+    Win32Platform platform;
+    EXPECT_FALSE(
+        platform.WriteShellLink(dir.File("fehlt/a.lnk"), LinkTo(dir.Write("tarvolin.exe", "MZ"), "")));
+    EXPECT_FALSE(fs::exists(platform::PathOf(dir.File("fehlt"))));
+    EXPECT_EQ(platform.ReadShellLink(dir.Write("kein.lnk", "[InternetShortcut]\r\n")), std::nullopt);
+}
+
+TEST(ShellLinkTest, OpeningTheLinkStartsTheGameWithItsArgumentsInItsFolder) {
+    const TempDir dir;
+    const StandInGame game(platform::PathOf(dir.File("Spiele/Größe ü")));
+    const std::string file = dir.File("Tarvolin starten.lnk");
+    ASSERT_TRUE(
+        Win32Platform().WriteShellLink(file, LinkTo(game.Path(), "-scenario \"Meine Karte.sve\" -res 2")));
+    EXPECT_GT(reinterpret_cast<INT_PTR>(
+                  ShellExecuteA(nullptr, "open", file.c_str(), nullptr, nullptr, SW_SHOWNORMAL)),
+              kShellExecSuccessAbove);
+    const std::optional<LaunchRecord> record = game.WaitForRecord(std::chrono::seconds(30));
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->directory, platform::FolderOf(game.Path()));
+    EXPECT_EQ(record->arguments, (std::vector<std::string>{"-scenario", "Meine Karte.sve", "-res", "2"}));
 }
 
 }  // namespace
