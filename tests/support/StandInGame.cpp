@@ -1,9 +1,8 @@
 #include "support/StandInGame.h"
 
-#include <fstream>
-#include <sstream>
 #include <thread>
 
+#include "platform/FileSystem.h"
 #include "platform/NativePath.h"
 
 namespace fs = std::filesystem;
@@ -11,15 +10,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::chrono::milliseconds kPollPause{20};
-
-std::optional<std::string> ReadWhole(const std::string& path) {
-    std::ifstream in(platform::PathOf(path), std::ios::binary);
-    if (!in)
-        return std::nullopt;
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
 
 // The record's fields, each ended by a NUL: the directory, then the arguments.
 std::optional<LaunchRecord> ParseRecord(const std::string& text) {
@@ -50,8 +40,8 @@ std::string StandInGame::RecordPath() const {
 std::optional<LaunchRecord> StandInGame::WaitForRecord(std::chrono::milliseconds timeout) const {
     const auto deadline = std::chrono::steady_clock::now() + timeout;
     for (;;) {
-        if (const std::optional<std::string> text = ReadWhole(RecordPath()))
-            return ParseRecord(*text);
+        if (const std::optional<platform::FileContent> record = platform::ReadFile(RecordPath()))
+            return ParseRecord(record->bytes);
         if (std::chrono::steady_clock::now() >= deadline)
             return std::nullopt;
         std::this_thread::sleep_for(kPollPause);

@@ -1,45 +1,39 @@
 // The language files the program ships: complete, alike, and within what the reader can return.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <fstream>
 #include <map>
 #include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 
+#include "base/mString.h"
+#include "platform/FileSystem.h"
 #include "storage/mIni.h"
 
 namespace {
 
 using Keys = std::map<std::string, std::string>;  // "SECTION/KEY" -> value
 
-std::string Content(const std::string& name) {
-    std::ifstream in(std::string(PAVONEL_SOURCE_DIR) + "/" + name, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
+// The keys of a shipped file, each once, with every line ended by CR LF.
 Keys KeysOf(const std::string& name) {
+    const auto content = platform::ReadFile(std::string(PAVONEL_SOURCE_DIR) + "/config/" + name);
+    EXPECT_TRUE(content) << name;
     Keys keys;
-    std::istringstream lines(Content(name));
-    std::string line, section;
-    while (std::getline(lines, line)) {
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        if (line.empty() || line[0] == ';')
-            continue;
-        if (line[0] == '[') {
-            section = line.substr(1, line.find(']') - 1);
+    std::string section;
+    mString::ForEachLine(content ? content->bytes : "", [&](const mString::Line& line) {
+        EXPECT_EQ(line.lineBreak, "\r\n") << name << ": " << line.text;
+        const std::string text(line.text);
+        if (text.empty() || text[0] == ';') {
+            return;
+        } else if (text[0] == '[') {
+            section = text.substr(1, text.find(']') - 1);
         } else {
-            std::size_t equals = line.find('=');
-            EXPECT_NE(equals, std::string::npos) << name << ": " << line;
-            std::string key = section + "/" + line.substr(0, equals);
-            EXPECT_TRUE(keys.emplace(key, line.substr(equals + 1)).second) << name << ": twice " << key;
+            const std::size_t equals = text.find('=');
+            EXPECT_NE(equals, std::string::npos) << name << ": " << text;
+            const std::string key = section + "/" + text.substr(0, equals);
+            EXPECT_TRUE(keys.emplace(key, text.substr(equals + 1)).second) << name << ": twice " << key;
         }
-    }
+    });
     return keys;
 }
 
@@ -51,34 +45,21 @@ std::set<std::string> Placeholders(const std::string& text) {
     return found;
 }
 
-const char* const kLanguages[] = {"config/LNG_EN.ini", "config/LNG_DE.ini"};
-
-TEST(LanguageFiles, CarryTheSameKeysAndPlaceholders) {
-    Keys english = KeysOf(kLanguages[0]);
-    Keys german = KeysOf(kLanguages[1]);
+// Every text can be read whole, and the reader, which drops blanks around a value, gives it as written.
+TEST(LanguageFiles, CarryTheSameKeysAndPlaceholdersAndAreReadableWhole) {
+    const Keys english = KeysOf("LNG_EN.ini");
+    const Keys german = KeysOf("LNG_DE.ini");
     ASSERT_GT(english.size(), 150u);
+    EXPECT_EQ(english.size(), german.size());
     for (const auto& [key, text] : english) {
-        auto other = german.find(key);
+        const auto other = german.find(key);
         ASSERT_NE(other, german.end()) << "German lacks " << key;
         EXPECT_EQ(Placeholders(text), Placeholders(other->second)) << key;
-    }
-    EXPECT_EQ(english.size(), german.size());
-}
-
-TEST(LanguageFiles, EveryTextIsReadableWhole) {
-    for (const char* file : kLanguages) {
-        for (const auto& [key, text] : KeysOf(file)) {
-            ASSERT_FALSE(text.empty()) << file << ": " << key;
-            EXPECT_LT(text.size(), mIni::kReadBufferSize) << file << ": " << key;
-            // The reader drops blanks around a value, so a text must not rely on them.
-            EXPECT_TRUE(text.find_first_of(" \t") != 0 && text.find_last_of(" \t") != text.size() - 1)
-                << file << ": " << key;
+        for (const std::string& value : {text, other->second}) {
+            EXPECT_FALSE(value.empty()) << key;
+            EXPECT_LT(value.size(), mIni::kReadBufferSize) << key;
+            EXPECT_EQ(mString::TrimView(value, " \t"), value) << key;
         }
-        std::string content = Content(file);
-        std::size_t lineFeeds = std::count(content.begin(), content.end(), '\n');
-        std::regex crLf("\r\n");
-        std::size_t crLfs = std::distance(std::sregex_iterator(content.begin(), content.end(), crLf), {});
-        EXPECT_EQ(crLfs, lineFeeds) << file << " uses CRLF line breaks";
     }
 }
 
