@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QTest>
 
 #include "error/mError.h"
 #include "ui/dialogs/UiFixture.h"
