@@ -84,10 +84,9 @@ TEST_F(ProfileDialogsTest, EditModeLocksTheNameAndStillAddsThePrefix) {
     window = [](QDialog& shown) {
         auto* name = Find<QLineEdit>(shown, "txtName");
         auto* description = Find<QLineEdit>(shown, "txtDescription");
-        EXPECT_EQ(shown.windowTitle(), "Edit Profile");
+        EXPECT_EQ(shown.windowTitle() + "|" + name->text() + "|" + description->text(),
+                  "Edit Profile|DEFAULT|Standard");
         EXPECT_TRUE(name->isReadOnly());
-        EXPECT_EQ(name->text(), "DEFAULT");
-        EXPECT_EQ(description->text(), "Standard");
         description->setText("Mine");
         Find(shown, "cmdOk")->click();
     };
@@ -103,8 +102,9 @@ TEST_F(ProfileDialogsTest, EditModeLocksTheNameAndStillAddsThePrefix) {
     EXPECT_EQ(standard.ProfileDescription(), "Mine");
 }
 
-// The remembered profile is gone: the chooser offers all of them with the standard profile selected.
-TEST_F(ProfileDialogsTest, ChooserPreselectsTheStandardProfileAtStart) {
+// The remembered profile is gone: the chooser offers all of them with the standard profile selected. Its
+// help explains, and OK needs a selection.
+TEST_F(ProfileDialogsTest, ChooserPreselectsTheStandardProfileAtStartAndNeedsASelection) {
     WriteIni(
         "[PROFILES]\r\nLASTACTIVEPROFILE=profile_Gone\r\n[profile_A]\r\n[PROFILE_DEFAULT]\r\n[profile_B]"
         "\r\n");
@@ -118,17 +118,11 @@ TEST_F(ProfileDialogsTest, ChooserPreselectsTheStandardProfileAtStart) {
     ASSERT_TRUE(g_cApp->LoadData());
     EXPECT_EQ(g_cApp->ActiveProfile()->ProfileName(), "profile_B");
 
-    window = [](QDialog& shown) { Find(shown, "cmdCancel")->click(); };
-    EXPECT_EQ(Ui().ShowLoadProfileDialog(), nullptr);
-}
-
-TEST_F(ProfileDialogsTest, ChooserHelpsAndNeedsASelection) {
-    LoadProfiles("[profile_A]\r\n");
     window = [](QDialog& shown) {
         Find(shown, "cmdHelp")->click();
         Find<QTreeWidget>(shown, "ListView1")->clearSelection();
         EXPECT_FALSE(Find(shown, "cmdOk")->isEnabled());
-        shown.reject();
+        Find(shown, "cmdCancel")->click();
     };
     EXPECT_EQ(Ui().ShowLoadProfileDialog(), nullptr);
     EXPECT_EQ(boxes,
@@ -149,16 +143,14 @@ TEST_F(ProfileDialogsTest, ProfileListSortsByEitherColumn) {
     const QTreeWidgetItem* headings = Find<QTreeWidget>(dialog, "ListView1")->headerItem();
     EXPECT_EQ(QStringList({headings->text(0), headings->text(1)}), (QStringList{"Profile", "Description"}));
     QHeaderView* header = Find<QTreeWidget>(dialog, "ListView1")->header();
-    const auto clickColumn = [&](int column) {
+    const auto sortBy = [&](int column) {
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
                           QPoint(header->sectionViewportPosition(column) + 4, header->height() / 2));
+        return Captions(dialog);
     };
-    clickColumn(0);
-    EXPECT_EQ(Captions(dialog), (QStringList{"A", "B", "C*"}));
-    clickColumn(0);
-    EXPECT_EQ(Captions(dialog), (QStringList{"C*", "B", "A"}));
-    clickColumn(1);
-    EXPECT_EQ(Captions(dialog), (QStringList{"A", "C*", "B"}));
+    EXPECT_EQ(sortBy(0), (QStringList{"A", "B", "C*"}));
+    EXPECT_EQ(sortBy(0), (QStringList{"C*", "B", "A"}));
+    EXPECT_EQ(sortBy(1), (QStringList{"A", "C*", "B"}));
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
 }
@@ -186,21 +178,18 @@ protected:
         "[profile_A]\r\nREFRESH=1\r\n[profile_B]\r\nREFRESH=1\r\n[profile_C]\r\nREFRESH=1\r\n";
 };
 
-TEST_F(frmSaveTest, OffersTheChangedProfilesAllSelected) {
-    window = [](QDialog& shown) {
-        EXPECT_EQ(shown.windowTitle(), "Save Profiles");
-        EXPECT_EQ(Find(shown, "Command1")->text().remove('&'), "Yes");
+// The window offers the changed profiles, all selected. Space on the current row takes it out of the
+// selection; Yes saves only what is still selected, and with nothing selected, or No, nothing is saved.
+TEST_F(frmSaveTest, YesSavesExactlyTheSelectedProfiles) {
+    const auto offered = [](QTreeWidget& list) {
+        const QWidget& shown = *list.window();
+        EXPECT_EQ(shown.windowTitle() + "|" + Find(shown, "Command1")->text().remove('&'),
+                  "Save Profiles|Yes");
         EXPECT_EQ(Captions(shown), (QStringList{"A*", "C*"}));
         EXPECT_EQ(Find<QLabel>(shown, "lblListTitle")->buddy(), Find<QWidget>(shown, "ucProfiles1"));
+        list.clearSelection();
     };
-    Ui().ShowSaveDialog();
-    EXPECT_EQ(modalWindows, 1);
-}
-
-// Space on the current row takes it out of the selection; Yes saves only what is still selected, and with
-// nothing selected, or No, nothing is saved.
-TEST_F(frmSaveTest, YesSavesExactlyTheSelectedProfiles) {
-    EXPECT_EQ(SaveWith([](QTreeWidget& list) { list.clearSelection(); }, "Command1"), kUnchanged);
+    EXPECT_EQ(SaveWith(offered, "Command1"), kUnchanged);
     EXPECT_EQ(SaveWith([](QTreeWidget&) {}, "Command2"), kUnchanged);
     const std::string saved = SaveWith(
         [](QTreeWidget& list) {
@@ -213,6 +202,7 @@ TEST_F(frmSaveTest, YesSavesExactlyTheSelectedProfiles) {
     EXPECT_TRUE(saved.ends_with("\r\n[profile_B]\r\nREFRESH=1\r\n[profile_C]\r\nREFRESH=1\r\n")) << saved;
     EXPECT_FALSE(g_cApp->Profiles().Item("profile_A").DataChanged());
     EXPECT_TRUE(g_cApp->Profiles().Item("profile_C").DataChanged());
+    EXPECT_EQ(modalWindows, 3);
 }
 
 }  // namespace
