@@ -1,11 +1,17 @@
 // The widget tests' program folder: the AppFixture's fakes, program-wide objects and language files, and the
-// Qt user interface, whose modal windows the test answers instead of a person.
+// Qt user interface, whose modal windows the test answers instead of a person; with it come the Qt headers
+// that nearly every widget test needs.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 #include <functional>
 
 #include "app/Application.h"

@@ -3,9 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
-#include <QTest>
-
 #include "ui/controls/ucTab.h"
 #include "ui/dialogs/UiFixture.h"
 

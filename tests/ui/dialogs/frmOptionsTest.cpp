@@ -3,12 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QCheckBox>
 #include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
 
 #include "ui/controls/ucPath.h"
 #include "ui/dialogs/UiFixture.h"

@@ -5,8 +5,6 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "app/Application.h"
-#include "app/PublicObjects.h"
 #include "app/UserInterface.h"
 #include "support/AppFixture.h"
 
@@ -66,19 +64,15 @@ TEST(mMessageBox, EachStyleOffersItsButtonsIconAndDefaultAndAnswersAsWindowsDoes
     }
 }
 
-}  // namespace
-
-namespace {
-
-class TranslatedMessageBox : public AppFixture {};
+using TranslatedMessageBox = AppFixture;
 
 // The buttons the language files name follow the chosen language; the others keep Qt's words.
 TEST_F(TranslatedMessageBox, ButtonsSpeakTheChosenLanguage) {
     UseLanguage("DE");
     const auto box = mMessageBox::Create("Frage", vbYesNoCancel, nullptr);
-    EXPECT_EQ(box->button(MB::Yes)->text(), "Ja");
-    EXPECT_EQ(box->button(MB::No)->text(), "Nein");
-    EXPECT_EQ(box->button(MB::Cancel)->text(), "Abbrechen");
+    const QStringList german{box->button(MB::Yes)->text(), box->button(MB::No)->text(),
+                             box->button(MB::Cancel)->text()};
+    EXPECT_EQ(german, (QStringList{"Ja", "Nein", "Abbrechen"}));
     UseLanguage("EN");
     EXPECT_EQ(mMessageBox::Create("Question", vbOKOnly, nullptr)->button(MB::Ok)->text(), "OK");
 }

@@ -5,16 +5,21 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QLineEdit>
+#include <QComboBox>
+#include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QTest>
+#include <QRadioButton>
 #include <deque>
 #include <filesystem>
 
+#include "platform/NativePath.h"
 #include "profiles/Profile.h"
+#include "support/StandInGame.h"
 #include "ui/Main.h"
+#include "ui/controls/ucPath.h"
+#include "ui/controls/ucTab.h"
 #include "ui/dialogs/UiFixture.h"
 #include "ui/main/frmMain.h"
 
@@ -38,6 +43,25 @@ protected:
         main = Main();
     }
 
+    // Asks the window to close, answering its questions from `answers`; true when it ended (it deletes
+    // itself, and the program-wide objects go with it).
+    bool Close(std::deque<QMessageBox::StandardButton> answers) {
+        buttons = std::move(answers);
+        if (!main->close())
+            return false;
+        main = nullptr;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return true;
+    }
+
+    // Runs `act` on the real platform, with the start confirmation switched off.
+    void OnRealPlatform(const std::function<void()>& act) {
+        InstallPlatform(nullptr);
+        g_cApp->Options().SetShowStartTarvolinDialog(false);
+        act();
+        InstallPlatform(&platform);
+    }
+
     // Message boxes are answered from `buttons` (their default once it is empty); a report is kept; any other
     // window is left to `window`.
     void Answer(QDialog& shown) {
@@ -58,6 +82,7 @@ protected:
     T* Control(const char* name) const {
         return Find<T>(*main, name);
     }
+    void Click(const char* name) const { QTest::mouseClick(Control(name), Qt::LeftButton); }
     // An entry of the menus, after opening the profile menu as a user does before choosing a profile: its
     // items are made as it opens.
     QAction* Menu(const char* name) const {
@@ -72,6 +97,10 @@ protected:
         edit->setFocus();
         edit->selectAll();
         QTest::keyClicks(edit, text);
+    }
+    // A message of the language file, as a box shows it.
+    static QString Message(const char* section, const char* key) {
+        return QtText::ToQtLines(Translator().TranslateEx(section, key));
     }
 
     std::string game;

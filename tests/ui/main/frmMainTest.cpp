@@ -1,38 +1,18 @@
-// The main window's documented behaviour, driven through the real widgets.
+// The main window's documented behaviour, driven through the real widgets, and what it makes of bad input:
+// each ends in the documented message or report, never in a crash or a lost edit.
 #include "ui/main/frmMain.h"
-#include "ui/main/ucResolutionPreview.h"
 
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QRadioButton>
-#include <QTest>
-#include <deque>
-#include <filesystem>
 
-#include "platform/NativePath.h"
-#include "profiles/Profile.h"
 #include "support/Portable.h"
-#include "support/StandInGame.h"
-#include "ui/Main.h"
-#include "ui/controls/ucPath.h"
-#include "ui/controls/ucTab.h"
-#include "ui/dialogs/UiFixture.h"
 #include "ui/main/MainWindowFixture.h"
+#include "ui/main/ucResolutionPreview.h"
 
 namespace {
 
-class frmMainTest : public MainWindowFixture {};
+using frmMainTest = MainWindowFixture;
 
 TEST_F(frmMainTest, StartsWithTheRememberedProfileAndSwitchesPages) {
     ASSERT_NE(main, nullptr);
@@ -44,15 +24,14 @@ TEST_F(frmMainTest, StartsWithTheRememberedProfileAndSwitchesPages) {
     EXPECT_EQ(Control<QLabel>("lblVersion")->text(), "Pavonel 0.1.0 with Tarvolin");
     EXPECT_TRUE(Menu("mnuProfile_List_0")->isChecked() && !Menu("mnuProfile_List_1")->isChecked());
     Control<QListWidget>("lstResolution")->setCurrentRow(1);  // 800 x 600, chosen before its page shows
-    QTest::mouseClick(Control("ucTab1_2"), Qt::LeftButton);
+    Click("ucTab1_2");
     for (int page = 1; page <= frmMain::kTabCount; ++page)
         EXPECT_EQ(Control(QStringLiteral("picPage_%1").arg(page).toLatin1())->isVisible(), page == 3) << page;
     EXPECT_TRUE(Control<ucTab>("ucTab1_2")->IsActive());
     EXPECT_FALSE(Control<ucTab>("ucTab1_0")->IsActive());
     // The preview shows the sample picture for the chosen resolution once its page is open.
     EXPECT_FALSE(Control<QLabel>("Image1")->pixmap().isNull());
-    EXPECT_EQ(Control<ucResolutionPreview>("UserControl11")->ImageRect().size(),
-              QSize(102, 77));  // 800 x 600
+    EXPECT_EQ(Control<ucResolutionPreview>("UserControl11")->ImageRect().size(), QSize(102, 77));
 }
 
 // Only digits get into a resolution field, and typing there chooses the user-defined mode; leaving it
@@ -80,47 +59,86 @@ TEST_F(frmMainTest, ResolutionFieldsTakeDigitsAndCorrectSmallValues) {
     EXPECT_EQ(main->focusWidget(), Control("lstRefresh"));
 }
 
-// A failed check ends the start with a report and writes nothing into the profile; so does a command line
-// that the window composes differently from the profile.
+// A failed check ends the start with a report and writes nothing into the profile; so do a command line
+// that the window composes differently from the profile and a width that is no 16-bit number, which the
+// field keeps as typed.
 TEST_F(frmMainTest, StartRefusesWhatTheChecksRefuse) {
     Control<QComboBox>("txtScenario")->setEditText("scenarios/gone");
-    QTest::mouseClick(Control("cmdStart"), Qt::LeftButton);
-    ASSERT_EQ(reports.size(), 1);
-    EXPECT_TRUE(reports[0].contains("Err.-Number: -2147201498 (20006)")) << reports[0].toStdString();
-    EXPECT_TRUE(reports[0].contains("frmMain.cmdStart_Click\nfrmMain.RefreshProfileData\nfrmMain.CheckData"));
+    Click("cmdStart");
     EXPECT_EQ(Active().ScenarioPath(), "");
     Control<QComboBox>("txtScenario")->setEditText("");
     Control<QRadioButton>("opResolution_1")->setChecked(true);
     Control<QLineEdit>("txtRes_Width")->setText("0800");
-    QTest::mouseClick(Control("cmdStart"), Qt::LeftButton);
-    ASSERT_EQ(reports.size(), 2);
-    EXPECT_TRUE(reports[1].contains("Commandline parameters should be: -log -screensize 0800x480"))
-        << reports[1].toStdString();
+    Click("cmdStart");
+    main->ucTab1_Click(2);
+    Type("txtRes_Width", "40000");
+    Click("cmdStart");
+    EXPECT_EQ(Control<QLineEdit>("txtRes_Width")->text(), "40000");
     EXPECT_TRUE(platform.calls.empty());
+    ASSERT_EQ(reports.size(), 3);
+    const QString trail = "frmMain.cmdStart_Click\nfrmMain.RefreshProfileData\n";
+    EXPECT_TRUE(reports[0].contains("Err.-Number: -2147201498 (20006)")) << reports[0].toStdString();
+    EXPECT_TRUE(reports[0].contains(trail + "frmMain.CheckData"));
+    EXPECT_TRUE(reports[1].contains("Commandline parameters should be: -log -screensize 0800x480"));
+    EXPECT_TRUE(reports[2].contains("Overflow\n\nErr.-Number: 6 (6)")) << reports[2].toStdString();
+    EXPECT_TRUE(reports[2].contains(trail));
     Control<QLineEdit>("txtRes_Width")->setText("800");
     window = [](QDialog& confirmation) { Find(confirmation, "cmdOk")->click(); };
-    QTest::mouseClick(Control("cmdStart"), Qt::LeftButton);
+    Click("cmdStart");
     ASSERT_EQ(platform.calls.size(), 1u);
     EXPECT_EQ(platform.calls[0].file, game);
     EXPECT_EQ(platform.calls[0].parameters, "-log -screensize 800x480 -refresh 1");
     EXPECT_EQ(platform.calls[0].directory, dir.File("game/"));
 }
 
-// Start gives the real stand-in game the window's command line in the game's own folder.
-TEST_F(frmMainTest, StartLaunchesTheGame) {
-    InstallPlatform(nullptr);
-    const StandInGame stand(dir.Path() / "Spiele" / "Tarvolin Größe");
-    g_cApp->Options().SetShowStartTarvolinDialog(false);
+// With the real platform: a deleted game is named in a message, a deleted game folder is refused by the
+// checks; nothing is started and the profile keeps its path.
+TEST_F(frmMainTest, AGameThatIsGoneIsReportedWithItsPath) {
+    OnRealPlatform([&] {
+        std::filesystem::remove(game);
+        Click("cmdStart");
+        std::filesystem::remove_all(dir.Path() / "game");
+        Click("cmdStart");
+    });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_TRUE(boxes[0].contains(QtText::ToQt(game))) << boxes[0].toStdString();
+    ASSERT_EQ(reports.size(), 1);
+    EXPECT_TRUE(reports[0].contains("(20006)")) << reports[0].toStdString();
+    EXPECT_EQ(Active().TarvolinPath(), game);
+}
+
+// Cancel keeps the window and the edits; Yes saves the profiles chosen in the save window. A game path of
+// 254 characters (a setting is read through a buffer of 255) comes back whole at the next start, and Start
+// gives the real stand-in game its command line in the game's own folder.
+TEST_F(frmMainTest, ClosingAsksWhetherToSaveAndTheNextStartLaunchesWhatWasSaved) {
+    const std::string base = platform::TextOf(dir.Path() / "Spiele" / "Tarvolin Größe");
+    const std::filesystem::path folder =
+        base + "/" + std::string(254 - (base + "//tarvolin.exe").size(), 'a');
+    const StandInGame stand(folder);
+    ASSERT_EQ(stand.Path().size(), 254u);
     Control<ucPath>("txtTarvolinPath")->SetText(QtText::ToQt(stand.Path()));
     Control<QCheckBox>("ckFreeplay")->setChecked(true);
-    QTest::mouseClick(Control("cmdStart"), Qt::LeftButton);
-    const auto record = stand.WaitForRecord();
-    InstallPlatform(&platform);
-    ASSERT_TRUE(record);
-    EXPECT_EQ(record->arguments,
-              (std::vector<std::string>{"-log", "-res", "1", "-freeplay", "-refresh", "1"}));
-    EXPECT_EQ(record->directory, platform::TextOf(dir.Path() / "Spiele" / "Tarvolin Größe"));
+    EXPECT_FALSE(Close({QMessageBox::Cancel}));
+    EXPECT_TRUE(Control<QCheckBox>("ckFreeplay")->isChecked());
+    window = [](QDialog& shown) { Find(shown, "Command1")->click(); };
+    ASSERT_TRUE(Close({QMessageBox::Yes}));
+    EXPECT_EQ(g_cApp, nullptr);
+    const std::string saved = ReadIni();
+    EXPECT_NE(saved.find("[profile_A]\r\nTARVOPATH=" + stand.Path() + "\r\nFREEPLAY=1\r\n"),
+              std::string::npos)
+        << saved;
+    EXPECT_NE(saved.find("FILEVERSION=1.1"), std::string::npos);
+    main = Main();
+    ASSERT_NE(main, nullptr);
     EXPECT_EQ(Active().TarvolinPath(), stand.Path());
+    std::optional<LaunchRecord> record;
+    OnRealPlatform([&] {
+        Click("cmdStart");
+        record = stand.WaitForRecord();
+    });
+    ASSERT_TRUE(record);
+    EXPECT_EQ(*record,
+              (LaunchRecord{platform::TextOf(folder), {"-log", "-res", "1", "-freeplay", "-refresh", "1"}}));
 }
 
 TEST_F(frmMainTest, ProfileMenuSwitchesAndKeepsTheEdits) {
@@ -142,8 +160,7 @@ TEST_F(frmMainTest, ProfileMenuSwitchesAndKeepsTheEdits) {
     Menu("mnuProfile_New")->trigger();
     EXPECT_EQ(Active().ProfileName(), "profile_Race");
     EXPECT_EQ(Active().TarvolinPath(), "");
-    EXPECT_EQ(boxes, QStringList{QtText::ToQtLines(
-                         Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinFolderNotDefined"))});
+    EXPECT_EQ(boxes, QStringList{Message("ERROR_MESSAGES", "ERR_TarvolinFolderNotDefined")});
     EXPECT_EQ(Menu("mnuProfile_List_2")->text(), "Race");
 }
 
@@ -163,71 +180,59 @@ TEST_F(frmMainTest, LanguageSwitchRetranslatesAtOnce) {
     EXPECT_EQ(g_cApp->Options().Language(), "DE");
 }
 
+// A language file that is missing, empty or garbage leaves the English texts.
+TEST_F(frmMainTest, ABrokenLanguageFileLeavesTheEnglishTexts) {
+    const QString english = Control<QPushButton>("cmdStart")->text();
+    const std::optional<std::string> files[] = {std::nullopt, "",
+                                                std::string("\xff\xfe\0[=\x01\x02;]]\n\r=x", 15)};
+    for (const std::optional<std::string>& bytes : files) {
+        SCOPED_TRACE(bytes ? std::to_string(bytes->size()) + " bytes" : "no file");
+        std::filesystem::remove(dir.Path() / "config" / "LNG_FR.ini");
+        if (bytes)
+            dir.Write("config/LNG_FR.ini", *bytes);
+        Restart(
+            "[OPTIONS]\r\nLANGUAGE=FR\r\n[PROFILES]\r\nLASTACTIVEPROFILE=profile_A\r\n[profile_A]"
+            "\r\nTARVOPATH=" +
+            game + "\r\n");
+        ASSERT_NE(main, nullptr);
+        EXPECT_EQ(Control<QPushButton>("cmdStart")->text(), english);
+    }
+    EXPECT_TRUE(reports.isEmpty()) << reports.join("\n").toStdString();
+}
+
 TEST_F(frmMainTest, CommandsReachTheClipboardAndTheShell) {
     Menu("mnuEditCopy_CmdLine")->trigger();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QtText::ToQt(game) + "-log -res 1 -refresh 1");
-    QTest::mouseClick(Control("cmdOpenTarvoDir"), Qt::LeftButton);
+    Click("cmdOpenTarvoDir");
     ASSERT_EQ(platform.calls.size(), 1u);
     EXPECT_EQ(platform.calls[0].file, dir.File("game/"));
     g_cApp->Options().SetEditorPath("/usr/bin/editor");
-    QTest::mouseClick(Control("cmdLogfile"), Qt::LeftButton);
-    EXPECT_EQ(boxes, QStringList{QtText::ToQtLines(
-                         Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinLogfileNotFound"))});
+    Click("cmdLogfile");
+    EXPECT_EQ(boxes, QStringList{Message("ERROR_MESSAGES", "ERR_TarvolinLogfileNotFound")});
     dir.Write("game/tarvo.log", "log");
-    QTest::mouseClick(Control("cmdLogfile2"), Qt::LeftButton);
+    Click("cmdLogfile2");
     ASSERT_EQ(platform.calls.size(), 2u);
     EXPECT_EQ(platform.calls[1].file + " " + platform.calls[1].parameters,
               "/usr/bin/editor " + dir.File("game/tarvo.log"));
     // The shortcut wizard opens on the active profile with the page's input written into it first.
     Control<QCheckBox>("ckFreeplay")->setChecked(true);
-    QString target;
-    window = [&target](QDialog& shown) { target = Find<ucPath>(shown, "txtDest")->Text(); };
+    QString shown;
+    window = [&shown](QDialog& dialog) {
+        const auto* target = dialog.findChild<ucPath*>("txtDest");
+        shown += dialog.objectName() + (target ? ": " + target->Text() : "") + "\n";
+    };
     Menu("mnuExtra_CreateShortcut")->trigger();
-    EXPECT_EQ(target, QtText::ToQt(game));
     EXPECT_TRUE(Active().Freeplay());
-    window = [&target](QDialog& shown) { target = shown.objectName(); };
     Menu("mnuExtra_Update")->trigger();
-    EXPECT_EQ(target, "frmUpdate");
+    EXPECT_EQ(shown, "frmCreateTarvolinShortcut_New: " + QtText::ToQt(game) + "\nfrmUpdate\n");
 }
 
 // No closes without saving the profiles, but with the program's settings.
 TEST_F(frmMainTest, ClosingWithNoSavesNoProfile) {
     Control<QCheckBox>("ckFreeplay")->setChecked(true);
-    buttons = {QMessageBox::No};
-    EXPECT_TRUE(main->close());
-    main = nullptr;
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_TRUE(Close({QMessageBox::No}));
     const std::string saved = ReadIni();
     EXPECT_NE(saved.find("[profile_A]\r\nTARVOPATH=" + game + "\r\nFREEPLAY=0\r\n"), std::string::npos)
-        << saved;
-    EXPECT_NE(saved.find("FILEVERSION=1.1"), std::string::npos);
-}
-
-// Without a profile to work with, the program ends before any window: the user is told once.
-TEST_F(frmMainTest, WithoutAProfileNoWindowOpens) {
-    delete main;
-    WriteIni("[PROFILES]\r\nLASTACTIVEPROFILE=profile_Gone\r\n[profile_A]\r\n");
-    boxes.clear();
-    main = Main();
-    EXPECT_EQ(main, nullptr);
-    EXPECT_EQ(boxes, QStringList{"You have to load a profile, if you want to use this application."});
-    EXPECT_EQ(g_cApp, nullptr);
-}
-
-// Cancel keeps the window and the edits; Yes saves the profiles chosen in the save window.
-TEST_F(frmMainTest, ClosingAsksWhetherToSave) {
-    Control<QCheckBox>("ckFreeplay")->setChecked(true);
-    buttons = {QMessageBox::Cancel};
-    EXPECT_FALSE(main->close());
-    EXPECT_TRUE(Control<QCheckBox>("ckFreeplay")->isChecked());
-    window = [](QDialog& shown) { Find(shown, "Command1")->click(); };
-    buttons = {QMessageBox::Yes};
-    EXPECT_TRUE(main->close());
-    main = nullptr;  // it deletes itself
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(g_cApp, nullptr);
-    const std::string saved = ReadIni();
-    EXPECT_NE(saved.find("[profile_A]\r\nTARVOPATH=" + game + "\r\nFREEPLAY=1\r\n"), std::string::npos)
         << saved;
     EXPECT_NE(saved.find("FILEVERSION=1.1"), std::string::npos);
 }
@@ -235,17 +240,19 @@ TEST_F(frmMainTest, ClosingAsksWhetherToSave) {
 // A failure while closing is reported first; then the user decides whether to quit anyway.
 TEST_F(frmMainTest, AFailureWhileClosingLeavesTheChoiceToTheUser) {
     Control<QComboBox>("txtScenario")->setEditText("scenarios/gone");
-    buttons = {QMessageBox::No};
-    EXPECT_FALSE(main->close());
+    EXPECT_FALSE(Close({QMessageBox::No}));
     ASSERT_EQ(reports.size(), 1);
     EXPECT_TRUE(reports[0].contains("Err.-Source: \nfrmMain.Form_QueryUnload\nfrmMain.RefreshProfileData"));
-    EXPECT_EQ(
-        boxes,
-        QStringList{QtText::ToQtLines(Translator().TranslateEx("MAIN_DIALOG", "MSG_QuitPavonelQuestion"))});
-    buttons = {QMessageBox::Yes};
-    EXPECT_TRUE(main->close());
-    main = nullptr;
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(boxes, QStringList{Message("MAIN_DIALOG", "MSG_QuitPavonelQuestion")});
+    EXPECT_TRUE(Close({QMessageBox::Yes}));
+    EXPECT_EQ(g_cApp, nullptr);
+}
+
+// Without a profile to work with, the program ends before any window: the user is told once.
+TEST_F(frmMainTest, WithoutAProfileNoWindowOpens) {
+    Restart("[PROFILES]\r\nLASTACTIVEPROFILE=profile_Gone\r\n[profile_A]\r\n");
+    EXPECT_EQ(main, nullptr);
+    EXPECT_EQ(boxes, QStringList{"You have to load a profile, if you want to use this application."});
     EXPECT_EQ(g_cApp, nullptr);
 }
 

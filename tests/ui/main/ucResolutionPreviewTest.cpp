@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <QSet>
 
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
@@ -88,17 +87,6 @@ TEST_F(ucResolutionPreviewTest, AnOverflowingSizeIsReportedAndChangesNothing) {
     EXPECT_EQ(TrailOf(Failure(0, "", ui.reports[0].source)),
               std::vector<std::string>{"ucResolutionPreview.DrawImage"});
     EXPECT_EQ(preview.ImageRect(), QRect(20, 15, 160, 120));
-}
-
-// The sample picture comes from the program's resources at twice its natural size, and it is a picture.
-TEST_F(ucResolutionPreviewTest, SamplePictureIsAColourfulSceneOfNaturalSize128x96) {
-    const QImage image = ucResolutionPreview::SamplePicture().toImage();
-    preview.SetPicture(ucResolutionPreview::SamplePicture());
-    EXPECT_EQ(preview.NaturalSize(), QSize(128, 96));
-    QSet<QRgb> colours;
-    for (int i = 0; i < image.width() * image.height(); i += 13)
-        colours.insert(image.pixel(i % image.width(), i / image.width()));
-    EXPECT_GT(colours.size(), 200);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <QTcpSocket>
 #include <QTimer>
-#include <algorithm>
 
 namespace {
 
@@ -88,14 +87,6 @@ void TestHttpServer::Answer(QTcpSocket* socket, Route route) {
             socket->write(Head(route, route.announceLength ? route.body.size() : -1) + route.body);
             socket->disconnectFromHost();
             break;
-        case Kind::Huge:
-            socket->write(Head(route, route.announceLength ? kHugeSize : -1));
-            socket->setProperty("left", kHugeSize);
-            connect(socket, &QTcpSocket::bytesWritten, this, [this, socket] { Stream(socket); });
-            break;
-        case Kind::Endless:
-            socket->write(Head(route, 2 * route.body.size()) + route.body);
-            break;
         case Kind::Silent:
             break;
         case Kind::Trickle:
@@ -107,21 +98,6 @@ void TestHttpServer::Answer(QTcpSocket* socket, Route route) {
             socket->abort();
             break;
     }
-}
-
-// The next piece goes out only when the last one has left, so the reply is never held in memory whole.
-void TestHttpServer::Stream(QTcpSocket* socket) {
-    static const QByteArray piece(64 * 1024, 'x');
-    const qint64 left = socket->property("left").toLongLong();
-    if (socket->bytesToWrite() > 0)
-        return;
-    if (left == 0) {
-        socket->disconnectFromHost();
-        return;
-    }
-    const qint64 size = std::min<qint64>(left, piece.size());
-    socket->write(piece.constData(), size);
-    socket->setProperty("left", left - size);
 }
 
 void TestHttpServer::Trickle(QTcpSocket* socket, const Route& route) {

@@ -1,6 +1,6 @@
 // A small HTTP/1.1 server on 127.0.0.1 for the download tests. It runs on the test's own event loop and
 // answers each path the way the test set up: a plain reply, or one of the ways a web server goes wrong
-// (endless, silent, trickling, cut off). It keeps every request it received.
+// (silent, trickling, cut off). It keeps every request it received.
 #pragma once
 
 #include <QByteArray>
@@ -20,8 +20,6 @@ class TestHttpServer : public QObject {
 public:
     enum class Kind {
         Reply,     // status, headers and body, then the connection is closed
-        Huge,      // a 200 reply of 100 MB, produced as the socket drains
-        Endless,   // the head and a part of the body, then nothing more on an open connection
         Silent,    // the request is read and never answered
         Trickle,   // the head, then the body one byte every `interval`
         CutShort,  // the head and a part of the body, then the connection is aborted
@@ -31,7 +29,7 @@ public:
         int status = 200;
         QByteArray body{};
         QList<QPair<QByteArray, QByteArray>> headers{};  // "{port}" in a value is this server's port
-        bool announceLength = true;                      // send Content-Length (Kind::Reply and Kind::Huge)
+        bool announceLength = true;                      // send Content-Length (Kind::Reply)
         std::chrono::milliseconds interval{1000};
     };
     struct Request {
@@ -39,8 +37,6 @@ public:
         QByteArray host{};
         QByteArray agent{};
     };
-
-    static constexpr qint64 kHugeSize = 100LL * 1024 * 1024;
 
     TestHttpServer();
 
@@ -59,7 +55,6 @@ private:
     void Accept();
     void Read(QTcpSocket* socket);
     void Answer(QTcpSocket* socket, Route route);
-    void Stream(QTcpSocket* socket);
     void Trickle(QTcpSocket* socket, const Route& route);
 
     QMap<QByteArray, Route> m_routes;

@@ -20,7 +20,6 @@ constexpr mInternet::Limits kLimits{1s, 64 * 1024, 5};
 constexpr std::chrono::milliseconds kMargin = 1s;
 const QByteArray kUpdate = "true\n/page\nnews 1\nnews 2\n";
 const QByteArray kBinary("\0\x01\xff\xfe garbage\0\0\x7f\r\n\x80", 18);
-const QByteArray kInvalidUtf8 = "\xc3\x28 \xa0\xa1 \xed\xa0\x80 \xf8\x88\x80\x80\x80 \xff";
 const QByteArray kFull(kLimits.maxBytes, 'a');
 
 class mInternetTest : public ::testing::Test {
@@ -64,14 +63,8 @@ TEST_P(mInternetDownload, EndsOnceInTimeOnlyAskingItsOwnHost) {
     QElapsedTimer clock;
     clock.start();
     Download download(GetParam().address.empty() ? Address("/") : GetParam().address, 0, kLimits);
-    QObject::connect(&download, &Download::Finished, [&](const QByteArray& finished) {
-        ++told;
-        body = finished;
-    });
-    QObject::connect(&download, &Download::Failed, [&](const QString& description) {
-        ++told;
-        failure = description;
-    });
+    QObject::connect(&download, &Download::Finished, [&](const QByteArray& got) { body = got, ++told; });
+    QObject::connect(&download, &Download::Failed, [&](const QString& got) { failure = got, ++told; });
     EXPECT_TRUE(QTest::qWaitFor([&] { return told > 0; }, (kLimits.timeout + 2 * kMargin).count()));
     EXPECT_LE(clock.elapsed(), (kLimits.timeout + kMargin).count());
     EXPECT_EQ(told, 1);
@@ -91,21 +84,16 @@ INSTANTIATE_TEST_SUITE_P(
     mInternet, mInternetDownload,
     ::testing::Values(
         Case{"Empty", Server::Ok("")}, Case{"UpdateFile", Server::Ok(kUpdate), kUpdate},
-        Case{"Binary", Server::Ok(kBinary), kBinary},
-        Case{"InvalidUtf8WithoutLength", Server::Ok(kInvalidUtf8, false), kInvalidUtf8},
+        Case{"BinaryWithoutLength", Server::Ok(kBinary, false), kBinary},
         Case{"ExactlyTheLimit", Server::Ok(kFull), kFull},
         Case{"ExactlyTheLimitWithoutLength", Server::Ok(kFull, false), kFull},
         Case{"RedirectOnTheSameHost", Server::Redirect("/update"), kUpdate},
         Case{"AbsoluteRedirectOnTheSameHost", Server::Redirect("http://127.0.0.1:{port}/update"), kUpdate},
         Case{"AsManyRedirectsAsAllowed", Server::Redirect("/hop1"), kUpdate},
         Case{"NotFound", Server::Status(404), {}, kNotFound},
-        Case{"ServerError", Server::Status(500), {}, kNotFound},
         Case{"SuccessOtherThan200", Server::Status(203), {}, kNotFound},
         Case{"OneByteOverTheLimit", Server::Ok(kFull + 'a'), {}, kNotFound},
         Case{"OneByteOverTheLimitWithoutLength", Server::Ok(kFull + 'a', false), {}, kNotFound},
-        Case{"Huge", Server::Behaving(Server::Kind::Huge), {}, kNotFound},
-        Case{"HugeWithoutLength", {.kind = Server::Kind::Huge, .announceLength = false}, {}, kNotFound},
-        Case{"NeverEnding", Server::Behaving(Server::Kind::Endless), {}, kNotFound},
         Case{"Silent", Server::Behaving(Server::Kind::Silent), {}, kNotFound},
         // Faster than the timeout, so only the limit on the whole download can end it.
         Case{"Trickling", {.kind = Server::Kind::Trickle, .interval = 100ms}, {}, kNotFound},
