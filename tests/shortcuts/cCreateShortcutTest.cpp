@@ -31,7 +31,7 @@ TEST_F(cCreateShortcutTest, NamesGetThePlatformsEndingUnlessTheyHaveIt) {
     } cases[] = {{".lnk", " Tarvolin ", "Tarvolin.lnk"},
                  {".lnk", "a.LNK", "a.LNK"},
                  {".lnk", "lnk", "lnk.lnk"},
-                 {".lnk", "", ".lnk"},
+                 {".lnk", ".LNK", ".LNK"},
                  {".desktop", "Tarvolin 800 x 600", "Tarvolin 800 x 600.desktop"},
                  {".desktop", "b.Desktop", "b.Desktop"},
                  {".desktop", "op", "op.desktop"}};

@@ -72,7 +72,7 @@ const ReadCase kReadCases[] = {
     {"CallerSpacesIgnored", kS + "k=v\r\n", "  S ", " k  ", "d", 255, "v"},
     {"CallerTabsCount", kS + "k=v\r\n", "\tS", "k", "d", 255, "d"},
     {"DefaultLosesTrailingSpacesOnly", kS, "S", "k", "  d  ", 255, "  d"},
-    {"ValueCutToSizeMinusOne", kS + "k=abcdef\r\n", "S", "k", "d", 4, "abc"},
+    {"ValueCutToSizeMinusOne", kS + "k=abcd\r\n", "S", "k", "d", 4, "abc"},
     {"DefaultCutToSizeMinusOne", kS, "S", "k", "defaults", 5, "defa"},
     {"SizeZeroGivesNothing", kS + "k=v\r\n", "S", "k", "d", 0, ""},
     {"Utf8ByteOrderMarkSkipped", "\xEF\xBB\xBF[S]\r\nk=v\r\n", "S", "k", "d", 255, "v"},
@@ -122,6 +122,7 @@ const WriteCase kWriteCases[] = {
     {"OnlyFirstSectionChanged", "[S]\r\n[S]\r\nk=2\r\n", "S", "k", "3", "[S]\r\nk=3\r\n[S]\r\nk=2\r\n"},
     {"ValueWrittenExactly", "[S]\r\n", "S", "k", "\"q\" ;x", "[S]\r\nk=\"q\" ;x\r\n"},
     {"SameValueLeavesFileAlone", "[S]\nk=v\n", "S", "k", "v", "[S]\nk=v\n"},
+    {"SameValueOnALastLineGetsItsBreak", "[S]\nk=v", "S", "k", "v", "[S]\nk=v\r\n"},
     {"KeysBeforeFirstSectionUntouched", "k=1\r\n", "S", "k", "2", "k=1\r\n[S]\r\nk=2\r\n"},
     {"DeleteKey", "[S]\na=1\nb=2\n", "S", "A", nullopt, "[S]\nb=2\n"},
     {"DeleteMissingKeyChangesNothing", "[S]\na=1", "S", "b", nullopt, "[S]\na=1"},
@@ -131,8 +132,8 @@ const WriteCase kWriteCases[] = {
     {"DeleteOnMissingFileCreatesNothing", nullopt, "S", "k", nullopt, nullopt},
     {"DeleteSectionOnMissingFileCreatesNothing", nullopt, "S", nullopt, "v", nullopt},
     {"Utf8ByteOrderMarkKept", "\xEF\xBB\xBF[S]\nk=1\n", "S", "k", "2", "\xEF\xBB\xBF[S]\nk=2\r\n"},
-    {"Utf16LeWrittenBackAsUtf16Le", std::string("\xFF\xFE[\0S\0]\0", 8), "S", "k", "\xC3\xA4",
-     std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n\0", 22)},
+    {"Utf16LeWrittenBackAsUtf16Le", std::string("\xFF\xFE[\0S\0]\0", 8), "S", "k", "\xC3\xA4\xF0\x9F\x98\x80",
+     std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\x3D\xD8\x00\xDE\r\0\n\0", 26)},
     {"Utf16BeWrittenBackAsUtf16Be", std::string("\xFE\xFF\0[\0S\0]", 8), "S", "k", "\xC3\xA4",
      std::string("\xFE\xFF\0[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n", 22)}};
 
