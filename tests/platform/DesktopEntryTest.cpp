@@ -86,6 +86,9 @@ TEST_F(DesktopEntryTest, AWindowsProgramStartsThroughWine) {
     EXPECT_EQ(m_platform.ReadShellLink(file)->target, game);
     EXPECT_FALSE(m_platform.ReadShellLink(m_dir.File("missing.desktop")));
     EXPECT_FALSE(m_platform.ReadShellLink(m_dir.Write("other.desktop", "[Other Group]\nExec=x\n")));
+    // A value's leading blank is escaped, since a reader drops blanks around a value.
+    const platform::DesktopEntry blank{" Tarvolin", " started", {game}, " folder"};
+    EXPECT_EQ(platform::ParseDesktopEntry(platform::DesktopEntryText(blank)), blank);
 }
 
 // GLib's own launch of the entry gives the stand-in what the launcher's Start gives it.
