@@ -12,7 +12,7 @@ struct ShellLink {
     std::string description;       // the comment a desktop shows beside the shortcut
     std::string iconPath;          // "" for the target's own icon
     int32_t iconIndex = 0;
-    int32_t showCommand = 0;  // how the window appears (5: as it was last)
+    int32_t showCommand = 0;  // how the window appears (5: in its current size and position)
     int32_t hotkey = 0;
 
     bool operator==(const ShellLink&) const = default;

@@ -10,7 +10,6 @@
 #include "base/mString.h"
 #include "error/mError.h"
 #include "platform/FileSystem.h"
-#include "platform/Platform.h"
 #include "storage/IniEncoding.h"
 #include "storage/iniFile.h"
 #include "translate/cTranslate.h"
@@ -167,7 +166,7 @@ void Profiles::SaveData(const std::string& strProfiles) try {
         return;
     // One replacement of the file for the whole list; what was saved before a failure is kept. When the
     // replacement does not happen, every profile of the list stays changed.
-    iniFile::Update save(App().IniPath());
+    iniFile::Update save = m_settings.BeginSave();
     std::vector<Profile*> saved;
     for (const std::string& name : mString::Split(strProfiles, ';')) {
         saved.push_back(&Item(name));

@@ -12,7 +12,7 @@
 
 namespace {
 
-// A link shows its window as it was last.
+// A link shows its window in its current size and position.
 constexpr int32_t kShowCommand = 5;
 
 }  // namespace

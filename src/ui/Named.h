@@ -2,6 +2,7 @@
 // know it by.
 #pragma once
 
+#include <QLabel>
 #include <QString>
 #include <QWidget>
 
@@ -10,4 +11,11 @@ T* Named(QWidget* parent, const QString& name) {
     auto* widget = new T(parent);
     widget->setObjectName(name);
     return widget;
+}
+
+// A label named `name` that wraps its text.
+inline QLabel* WrappedLabel(QWidget* parent, const char* name) {
+    auto* label = Named<QLabel>(parent, QString::fromLatin1(name));
+    label->setWordWrap(true);
+    return label;
 }

@@ -118,13 +118,16 @@ std::string PosixPlatform::ProgramDirectory() {
 // it; another one does while its folder may be written. Permission bits count for the superuser too.
 std::string PosixPlatform::SettingsDirectory() {
     const std::string program = ProgramDirectory();
+    const std::string config = platform::XdgConfigHome();
+    if (config.empty())
+        return program;
+    if (DataDirectory() != program)  // installed
+        return config + "/Pavonel";
     struct stat info {};
     const bool writable = stat(program.c_str(), &info) == 0 &&
                           (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0 &&
                           access(program.c_str(), W_OK) == 0;
-    const bool installed = DataDirectory() != program;
-    const std::string config = platform::XdgConfigHome();
-    return (writable && !installed) || config.empty() ? program : config + "/Pavonel";
+    return writable ? program : config + "/Pavonel";
 }
 
 std::string PosixPlatform::DataDirectory() {

@@ -20,7 +20,8 @@ public:
     std::string ProgramDirectory() override;
 
     // The program's folder while it may be written and is not installed (a build tree, a portable copy),
-    // else $XDG_CONFIG_HOME/Pavonel (~/.config/Pavonel), whether or not that exists yet.
+    // else $XDG_CONFIG_HOME/Pavonel (~/.config/Pavonel), whether or not that exists yet; the program's
+    // folder, too, when there is no home folder to find a config folder in.
     std::string SettingsDirectory() override;
     // <prefix>/share/pavonel when the program runs from <prefix>/bin and that folder exists, else the
     // program's folder.

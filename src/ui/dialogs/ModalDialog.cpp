@@ -8,6 +8,7 @@
 #include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "translate/cTranslate.h"
+#include "ui/Named.h"
 #include "ui/QtText.h"
 
 namespace {
@@ -65,16 +66,11 @@ void ModalDialog::reject() {
 }
 
 QLabel* ModalDialog::WrappedLabel(const char* name, QWidget* parent) {
-    auto* label = new QLabel(parent != nullptr ? parent : this);
-    label->setObjectName(QString::fromLatin1(name));
-    label->setWordWrap(true);
-    return label;
+    return ::WrappedLabel(parent != nullptr ? parent : this, name);
 }
 
 QPushButton* ModalDialog::Button(const char* name, QWidget* parent) {
-    auto* button = new QPushButton(parent != nullptr ? parent : this);
-    button->setObjectName(QString::fromLatin1(name));
-    return button;
+    return Named<QPushButton>(parent != nullptr ? parent : this, QString::fromLatin1(name));
 }
 
 QHBoxLayout* ModalDialog::ButtonRow(std::initializer_list<QPushButton*> buttons) {

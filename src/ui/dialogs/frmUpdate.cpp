@@ -54,7 +54,6 @@ frmUpdate::frmUpdate(QWidget* parent) : ModalDialog("frmUpdate", "UPDATE_DIALOG"
 void frmUpdate::InitDialog() try {
     ResetCancel();
     Form_Load();
-    TranslateDialog();
 } catch (...) {
     mError::PassOn("frmUpdate.InitDialog");
 }
@@ -64,7 +63,7 @@ void frmUpdate::Form_Load() try {
     lblUpdateInfo->clear();
     lblStatus->clear();
     cmdOpenUpdatePage->setEnabled(false);
-    ShowSearching(false);
+    ShowSearching();
 } catch (...) {
     mError::PassOn("frmUpdate.Form_Load");
 }
@@ -85,7 +84,7 @@ void frmUpdate::TranslateDialog() try {
 void frmUpdate::cmdSearchUpdates_Click() try {
     if (Searching()) {
         delete m_download;
-        ShowSearching(false);
+        EndDownload();
         lblStatus->clear();
         return;
     }
@@ -101,15 +100,14 @@ void frmUpdate::SearchUpdates() try {
     m_download = new mInternet::Download(update::FileAddress(), 0, {}, this);
     connect(m_download, &mInternet::Download::Finished, this, &frmUpdate::ShowReply);
     connect(m_download, &mInternet::Download::Failed, this, &frmUpdate::ShowFailure);
-    ShowSearching(true);
+    ShowSearching();
 } catch (...) {
     mError::ShowError("frmUpdate.SearchUpdates");
 }
 
 // The check's second half, once the file is there.
 void frmUpdate::ShowReply(const QByteArray& body) try {
-    m_download->deleteLater();
-    ShowSearching(false);
+    EndDownload();
     lblUpdateInfo->clear();
     const update::Reply reply =
         update::ParseReply(std::string(body.constData(), static_cast<std::size_t>(body.size())));
@@ -130,8 +128,7 @@ void frmUpdate::ShowReply(const QByteArray& body) try {
 }
 
 void frmUpdate::ShowFailure(const QString& description, const QString& detail) try {
-    m_download->deleteLater();
-    ShowSearching(false);
+    EndDownload();
     lblStatus->setText(
         QtText::ToQt(Translator().TranslateEx("UPDATE_DIALOG", "MSG_CHECK_FAILED", QtText::FromQt(detail))));
     mError::RaiseError(update::kDownloadFailed, QtText::FromQt(description));
@@ -139,11 +136,23 @@ void frmUpdate::ShowFailure(const QString& description, const QString& detail) t
     mError::ShowError("frmUpdate.SearchUpdates");
 }
 
+bool frmUpdate::Searching() const {
+    return m_download != nullptr;
+}
+
 // While a check runs, the busy bar shows and the check's button cancels it.
-void frmUpdate::ShowSearching(bool searching) {
-    m_searching = searching;
-    prgSearching->setVisible(searching);
+void frmUpdate::ShowSearching() {
+    prgSearching->setVisible(Searching());
     TranslateDialog();
+}
+
+// The download goes once it has told its outcome (it may be the one telling now), and the window shows that
+// no check runs.
+void frmUpdate::EndDownload() {
+    if (m_download)
+        m_download->deleteLater();
+    m_download = nullptr;
+    ShowSearching();
 }
 
 // Only a page that passed the check on the site's own host is ever handed to the shell.
@@ -161,6 +170,5 @@ void frmUpdate::cmdClose_Click() try { reject(); } catch (...) {
 // Closing ends a running check first.
 void frmUpdate::reject() {
     delete m_download;
-    m_searching = false;
     ModalDialog::reject();
 }

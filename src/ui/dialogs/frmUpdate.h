@@ -26,7 +26,7 @@ public:
     void TranslateDialog() override;
 
     // True while a check runs.
-    bool Searching() const { return m_searching; }
+    bool Searching() const;
 
 protected:
     void reject() override;
@@ -39,11 +39,11 @@ private:
     void SearchUpdates();
     void ShowReply(const QByteArray& body);
     void ShowFailure(const QString& description, const QString& detail);
-    void ShowSearching(bool searching);
+    void ShowSearching();
+    void EndDownload();
 
     std::string m_updatePage;
     QPointer<mInternet::Download> m_download;
-    bool m_searching = false;
 
     QLabel* lblInfo;
     QPlainTextEdit* lblUpdateInfo;

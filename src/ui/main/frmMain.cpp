@@ -30,12 +30,6 @@ constexpr int kPageTop = 10;
 constexpr int kPageWidthLoss = 12;
 constexpr int kPageHeightLoss = 17;
 
-QLabel* WrappedLabel(QWidget* parent, const char* name) {
-    auto* label = Named<QLabel>(parent, QString::fromLatin1(name));
-    label->setWordWrap(true);
-    return label;
-}
-
 QComboBox* EditableList(QWidget* parent, const char* name) {
     auto* list = Named<QComboBox>(parent, QString::fromLatin1(name));
     list->setEditable(true);

@@ -18,7 +18,7 @@ bool IsWeb(const QUrl& url) {
            !url.host().isEmpty();
 }
 
-QNetworkRequest RequestFor(const QUrl& address, const Limits& limits) {
+QNetworkRequest RequestFor(const QUrl& address) {
     QNetworkRequest request(address);
     request.setHeader(QNetworkRequest::UserAgentHeader, QString::fromLatin1(kAgent));
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
@@ -26,7 +26,6 @@ QNetworkRequest RequestFor(const QUrl& address, const Limits& limits) {
     // Redirects are followed here rather than by Qt: an automatic one is under way before its host could be
     // checked, and Qt's own checking sends requests twice and loses the reply after a few redirects.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setTransferTimeout(static_cast<int>(limits.timeout.count()));
     return request;
 }
 
@@ -68,7 +67,7 @@ void Download::Cancel() {
 }
 
 void Download::Get(const QUrl& address) {
-    m_reply = m_network->get(RequestFor(address, m_limits));
+    m_reply = m_network->get(RequestFor(address));
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &Download::CheckSize);
     connect(m_reply, &QNetworkReply::readyRead, this, &Download::CheckSize);
     connect(m_reply, &QNetworkReply::finished, this, &Download::Done);

@@ -8,27 +8,17 @@
 #include "ui/QtText.h"
 #include "ui/controls/HLine.h"
 
-namespace {
-
-QLabel* TitleLabel(const char* name, QWidget* parent) {
-    auto* label = Named<QLabel>(parent, QString::fromLatin1(name));
-    label->setWordWrap(true);
-    return label;
-}
-
-}  // namespace
-
 ucWizard_TitleArea::ucWizard_TitleArea(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("ucWizard_TitleArea"));
     Shape1 = Named<QWidget>(this, QStringLiteral("Shape1"));
     Shape1->setBackgroundRole(QPalette::Base);
     Shape1->setAutoFillBackground(true);
-    lblStep = TitleLabel("lblStep", Shape1);
+    lblStep = WrappedLabel(Shape1, "lblStep");
     QFont bold = lblStep->font();
     bold.setBold(true);
     lblStep->setFont(bold);
-    lblStepDesc = TitleLabel("lblStepDesc", Shape1);
-    lblStepTask = TitleLabel("lblStepTask", Shape1);
+    lblStepDesc = WrappedLabel(Shape1, "lblStepDesc");
+    lblStepTask = WrappedLabel(Shape1, "lblStepTask");
     lblStepTask->setIndent(fontMetrics().averageCharWidth() * 3);
     Line1 = Named<HLine>(this, QStringLiteral("Line1"));
     auto* texts = new QVBoxLayout(Shape1);
