@@ -35,6 +35,8 @@ frmMain* Main() {
             return nullptr;
         }
         window = new frmMain;
+        // From here on a request to end is answered by the window, which keeps the user's changes.
+        platform::DeferTerminationRequests();
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->InitDialog();
         window->LoadData(*g_cApp->ActiveProfile());
@@ -86,8 +88,8 @@ int RunProgram(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QString::fromLatin1(Version::kAppId));
     QtUserInterface ui;
     InstallUserInterface(&ui);
-    // Listening starts before the start-up, so that a request during its questions (the game's path of a
-    // first start) ends the program too.
+    // Listening starts before the start-up, so that a request that arrives once the window exists but
+    // before the event loop runs is answered too.
     QPointer<frmMain> window;
     if (requests >= 0)
         CloseOnRequest(application, window, requests);

@@ -10,9 +10,12 @@ namespace platform {
 namespace {
 
 int g_pipe[2] = {-1, -1};
+volatile sig_atomic_t g_deferred = 0;
 
-// Only what is safe inside a signal handler: one write that never blocks.
+// Only what is safe inside a signal handler: the end of the process, or one write that never blocks.
 extern "C" void Requested(int /*signal*/) {
+    if (g_deferred == 0)
+        _exit(0);
     const char byte = 1;
     [[maybe_unused]] const ssize_t written = write(g_pipe[1], &byte, 1);
 }
@@ -31,6 +34,10 @@ int CatchTerminationRequests() {
     for (int signal : {SIGTERM, SIGINT, SIGHUP})
         sigaction(signal, &action, nullptr);
     return g_pipe[0];
+}
+
+void DeferTerminationRequests() {
+    g_deferred = 1;
 }
 
 void TakeTerminationRequests() {

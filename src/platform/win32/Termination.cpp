@@ -6,6 +6,8 @@ int CatchTerminationRequests() {
     return -1;
 }
 
+void DeferTerminationRequests() {}
+
 void TakeTerminationRequests() {}
 
 }  // namespace platform
