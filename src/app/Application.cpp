@@ -24,6 +24,30 @@ std::optional<std::string_view> ProgramSettingsPath(bool forWriting) {
     return std::optional<std::string_view>(g_cApp->IniPath());
 }
 
+// The language key that names why a save did not reach the file.
+const char* SaveFaultKey(platform::WriteFault fault) {
+    switch (fault) {
+        case platform::WriteFault::NotAFile:
+            return "ERR_SaveNotAFile";
+        case platform::WriteFault::NoFolder:
+            return "ERR_SaveNoFolder";
+        case platform::WriteFault::ReadOnlyFile:
+            return "ERR_SaveReadOnlyFile";
+        case platform::WriteFault::ReadOnlyFolder:
+            return "ERR_SaveReadOnlyFolder";
+        case platform::WriteFault::Locked:
+            return "ERR_SaveLocked";
+        case platform::WriteFault::DiskFull:
+            return "ERR_SaveDiskFull";
+        case platform::WriteFault::LineBreak:
+            return "ERR_SaveLineBreak";
+        case platform::WriteFault::None:
+        case platform::WriteFault::WriteFailed:
+            break;
+    }
+    return "ERR_SaveWriteFailed";
+}
+
 }  // namespace
 
 Application::Application() {
@@ -80,12 +104,17 @@ bool Application::DataChanged() const try {
     mError::PassOn("Application.DataChanged");
 }
 
-void Application::SaveData() try { Ui().ShowSaveDialog(); } catch (...) {
+platform::WriteFault Application::SaveData() try {
+    m_lastSave = platform::WriteFault::None;
+    Ui().ShowSaveDialog();
+    return m_lastSave;
+} catch (...) {
     mError::PassOn("Application.SaveData");
 }
 
-void Application::SaveDataEx(const std::string& strProfiles) try {
-    m_profiles->SaveData(strProfiles);
+platform::WriteFault Application::SaveDataEx(const std::string& strProfiles) try {
+    m_lastSave = m_profiles->SaveData(strProfiles);
+    return m_lastSave;
 } catch (...) {
     mError::PassOn("Application.SaveDataEx");
 }
@@ -120,13 +149,24 @@ std::string Application::VersionText() {
            std::to_string(Version::kRevision);
 }
 
-void Application::SaveAppSettings() try {
+platform::WriteFault Application::SaveAppSettings() try {
     iniFile::Update save = m_settings->BeginSave();
     m_settings->Write_FileVersion(kFileVersion);
     m_settings->Write_AppVersion(AppVersionText());
-    m_options->SaveData();
+    const platform::WriteFault options = m_options->SaveData();
+    const platform::WriteFault fault = save.Commit();
+    return fault != platform::WriteFault::None ? fault : options;
 } catch (...) {
     mError::PassOn("Application.SaveAppSettings");
+}
+
+std::string Application::SaveFailureText(platform::WriteFault fault) const {
+    const std::string reason = Translator().TranslateEx("ERROR_MESSAGES", SaveFaultKey(fault));
+    return Translator().TranslateEx("ERROR_MESSAGES", "ERR_SettingsNotSaved", m_iniPath, reason);
+}
+
+void Application::TellUnsaved(platform::WriteFault fault) const {
+    Ui().MsgBox(SaveFailureText(fault), vbOKOnly | vbExclamation);
 }
 
 std::string Application::GetFAQFileName(const std::string& abbrev) {

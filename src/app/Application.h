@@ -46,13 +46,19 @@ public:
     // True when a profile has changed or a different profile was made active (options do not count).
     bool DataChanged() const;
 
-    // Lets the user choose which changed profiles to save.
-    void SaveData();
-    // Saves the profiles named in `strProfiles` (names joined by ";").
-    void SaveDataEx(const std::string& strProfiles);
+    // Lets the user choose which changed profiles to save; says why the chosen ones were not saved.
+    platform::WriteFault SaveData();
+    // Saves the profiles named in `strProfiles` (names joined by ";"); says why they were not saved.
+    platform::WriteFault SaveDataEx(const std::string& strProfiles);
 
-    // Writes the file and program versions and the options, as one update of the settings file.
-    void SaveAppSettings();
+    // Writes the file and program versions and the options, as one update of the settings file; says why
+    // they were not saved.
+    platform::WriteFault SaveAppSettings();
+
+    // The message that changes could not be saved, naming the settings file and the reason.
+    std::string SaveFailureText(platform::WriteFault fault) const;
+    // Shows that message.
+    void TellUnsaved(platform::WriteFault fault) const;
 
     // Writes a shortcut named `linkName` in `folder` that starts `target` with `arguments` (defined with the
     // shortcuts, which lie a floor above). Failure 20008 when it was not written.
@@ -94,4 +100,5 @@ private:
     std::string m_docDirectory;
     std::string m_toolsDirectory;
     bool m_activeProfileChanged = false;
+    platform::WriteFault m_lastSave = platform::WriteFault::None;  // of the save dialog's save
 };

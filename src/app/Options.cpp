@@ -14,11 +14,15 @@ void Options::LoadData() try {
     mError::PassOn("Options.LoadData");
 }
 
-void Options::SaveData() try {
+platform::WriteFault Options::SaveData() try {
     iniFile::Update save = m_settings.BeginSave();
     m_settings.Write_EditorPath(m_editorPath);
     m_settings.Write_Language(m_language);
     m_settings.Write_ShowStartTarvolinDialog(m_showStartTarvolinDialog);
+    const platform::WriteFault fault = save.Commit();
+    if (fault == platform::WriteFault::None)
+        m_dataChanged = false;
+    return fault;
 } catch (...) {
     mError::PassOn("Options.SaveData");
 }

@@ -14,8 +14,9 @@ public:
     // nothing counts as changed.
     void LoadData();
 
-    // Writes the three settings as one update of the settings file.
-    void SaveData();
+    // Writes the three settings as one update of the settings file and says why they did not reach it; they
+    // then stay changed.
+    platform::WriteFault SaveData();
 
     const std::string& EditorPath() const { return m_editorPath; }
     void SetEditorPath(const std::string& value);

@@ -47,24 +47,40 @@ std::optional<FileDetails> DetailsOf(const std::string& path);
 // The stamp of a regular file; nothing for a missing file, a folder or anything else.
 std::optional<FileStamp> StampOf(const std::string& path);
 
-// The whole content of a regular file with the stamp of what was read; nothing when it cannot be read.
+// The whole content of a regular file with the stamp of what was read; nothing when it cannot be read or is
+// anything else (a pipe or a device is never opened in a way that could wait for a writer).
 std::optional<FileContent> ReadFile(const std::string& path);
 
 // The file a write to `path` changes: the end of its chain of symbolic links, which need not exist yet (a
 // dangling link is written through, never replaced); "" for a chain that loops or cannot be followed.
 std::string WriteTargetOf(const std::string& path);
 
-// True when ReplaceFile may write `path`: its folder exists and is writable, and the path is either missing
-// or a regular file that is not read-only. Permission bits are honoured even for the superuser, so a
-// read-only settings file stays untouched whoever runs the program.
-bool CanReplaceFile(const std::string& path);
+// Why a file was not written, in the terms a user can act on.
+enum class WriteFault {
+    None,            // written, or nothing needed writing
+    NotAFile,        // a folder, a loop of links, a pipe or a device is in the file's place
+    NoFolder,        // the folder it belongs in does not exist
+    ReadOnlyFile,    // the file may not be changed
+    ReadOnlyFolder,  // the folder does not let its files be replaced
+    Locked,          // another copy of the program kept the file locked
+    DiskFull,        // no space left, or a quota or size limit reached
+    WriteFailed,     // any other failure of the disk
+    LineBreak,       // the text would have broken the file's lines: refused
+};
+
+// What keeps ReplaceFile from writing `path`, or None when it may: its folder exists and is writable, and
+// the path is either missing or a regular file that is not read-only. Permission bits are honoured even for
+// the superuser, so a read-only settings file stays untouched whoever runs the program.
+WriteFault ReplaceObstacle(const std::string& path);
 
 // Replaces the content of `path` (following a symbolic link) with `bytes`: writes a temporary file beside
 // it, flushes it to the disk and renames it over the old one, so the file is either entirely old or entirely
 // new. Keeps the old file's permissions. Returns the new file's stamp, or nothing when the write failed, in
 // which case the old file is as it was and no temporary file is left behind.
-// A write beyond the process's file-size limit or the disk's space fails like any other write.
-std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes);
+// A write beyond the process's file-size limit or the disk's space fails like any other write; `fault`, when
+// given, then says why.
+std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes,
+                                     WriteFault* fault = nullptr);
 
 // Removes the temporary files that replacements of `path` interrupted by a crash left beside it. Only for a
 // holder of the file's FileLock: every replacement still running holds that lock, so none of them is hit.

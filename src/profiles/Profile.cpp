@@ -136,7 +136,7 @@ void Profile::SaveData() try {
     m_settings.Write_TarvolinPath(m_tarvolinPath);
     m_settings.Write_ProfileDescription(m_profileDescription);
     // A save that did not reach the file keeps the profile changed, so the user is asked again at the end.
-    if (save.Commit())
+    if (save.Commit() == platform::WriteFault::None)
         m_dataChanged = false;
 } catch (...) {
     mError::PassOn("Profile.SaveData");

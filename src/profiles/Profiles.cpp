@@ -161,9 +161,9 @@ bool Profiles::DoesProfileExist(const std::string& strProfileName) const try {
     mError::PassOn("Profiles.DoesProfileExist");
 }
 
-void Profiles::SaveData(const std::string& strProfiles) try {
+platform::WriteFault Profiles::SaveData(const std::string& strProfiles) try {
     if (strProfiles.empty())
-        return;
+        return platform::WriteFault::None;
     // One replacement of the file for the whole list; what was saved before a failure is kept. When the
     // replacement does not happen, every profile of the list stays changed.
     iniFile::Update save = m_settings.BeginSave();
@@ -172,10 +172,12 @@ void Profiles::SaveData(const std::string& strProfiles) try {
         saved.push_back(&Item(name));
         saved.back()->SaveData();
     }
-    if (!save.Commit()) {
+    const platform::WriteFault fault = save.Commit();
+    if (fault != platform::WriteFault::None) {
         for (Profile* profile : saved)
             profile->SetDataChanged(true);
     }
+    return fault;
 } catch (...) {
     mError::PassOn("Profiles.SaveData");
 }

@@ -47,8 +47,9 @@ public:
 
     bool DoesProfileExist(const std::string& strProfileName) const;
 
-    // Saves the profiles named in `strProfiles` (names joined by ";"), in that order.
-    void SaveData(const std::string& strProfiles);
+    // Saves the profiles named in `strProfiles` (names joined by ";"), in that order, and says why they did
+    // not reach the settings file; they then stay changed.
+    platform::WriteFault SaveData(const std::string& strProfiles);
 
     // Remembers the application's active profile in the settings file.
     void SaveWhichProfileIsActive();

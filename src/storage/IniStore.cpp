@@ -6,6 +6,19 @@
 
 namespace {
 
+// True when writing these names and this value would make lines the file did not have, or make the key
+// read as a section or as another key.
+bool BreaksLines(std::string_view section, std::optional<std::string_view> key,
+                 std::optional<std::string_view> value) {
+    constexpr std::string_view kBreaks = "\r\n";
+    if (section.find_first_of(kBreaks) != std::string_view::npos ||
+        section.find(']') != std::string_view::npos)
+        return true;
+    if (key && (key->find_first_of("\r\n=") != std::string_view::npos || key->find_first_of("[;") == 0))
+        return true;
+    return value && value->find_first_of(kBreaks) != std::string_view::npos;
+}
+
 // A file found to hold what the copy does: the copy takes the stamp of what was just read.
 void Restamp(std::optional<platform::FileStamp>& stamp, bool& settled,
              const std::optional<platform::FileContent>& content) {
@@ -90,13 +103,17 @@ void IniStore::BeginUpdate(const std::string& file) {
     ++Current(file).updates;
 }
 
-bool IniStore::EndUpdate(const std::string& file) noexcept {
+platform::WriteFault IniStore::EndUpdate(const std::string& file) noexcept {
     auto found = m_files.find(file);
     if (found == m_files.end() || found->second.updates == 0)
-        return true;
-    if (--found->second.updates == 0 && !found->second.changes.empty())
-        return Commit(file, found->second);
-    return true;
+        return platform::WriteFault::None;
+    Entry& entry = found->second;
+    if (--entry.updates > 0)
+        return platform::WriteFault::None;
+    const platform::WriteFault fault =
+        entry.changes.empty() ? platform::WriteFault::None : Commit(file, entry);
+    const bool refused = std::exchange(entry.refused, false);
+    return fault == platform::WriteFault::None && refused ? platform::WriteFault::LineBreak : fault;
 }
 
 void IniStore::BeginLoad(const std::string& file) {
@@ -119,8 +136,15 @@ bool IniStore::Apply(IniDocument& document, const Change& change) {
     return document.SetValue(change.section, *change.key, *change.value);
 }
 
-void IniStore::Write(const std::string& file, std::string_view section, std::optional<std::string_view> key,
-                     std::optional<std::string_view> value) {
+platform::WriteFault IniStore::Write(const std::string& file, std::string_view section,
+                                     std::optional<std::string_view> key,
+                                     std::optional<std::string_view> value) {
+    if (BreaksLines(section, key, value)) {
+        auto found = m_files.find(file);
+        if (found != m_files.end() && found->second.updates > 0)
+            found->second.refused = true;
+        return platform::WriteFault::LineBreak;
+    }
     BeginUpdate(file);
     Entry& entry = m_files[file];
     Change change{std::string(section), key ? std::optional<std::string>(*key) : std::nullopt,
@@ -128,7 +152,7 @@ void IniStore::Write(const std::string& file, std::string_view section, std::opt
     entry.dirty = Apply(entry.document, change) || entry.dirty;
     // Kept even when the copy already holds it: the file may say otherwise by the time it is committed.
     entry.changes.push_back(std::move(change));
-    EndUpdate(file);
+    return EndUpdate(file);
 }
 
 bool IniStore::Rebase(const std::string& file, Entry& entry) {
@@ -153,35 +177,44 @@ bool IniStore::Rebase(const std::string& file, Entry& entry) {
     return true;
 }
 
-bool IniStore::Commit(const std::string& file, Entry& entry) noexcept {
-    bool writable = true;
+platform::WriteFault IniStore::Commit(const std::string& file, Entry& entry) noexcept {
+    platform::WriteFault fault = platform::WriteFault::WriteFailed;
     try {
         std::optional<platform::FileContent> content;
         if (!entry.dirty && Look(file, entry, content) == Found::Current) {
             // Nothing to write while the file still holds what the copy does.
             Restamp(entry.stamp, entry.settled, content);
             entry.changes.clear();
-            return true;
+            return platform::WriteFault::None;
         }
-        // While another copy replaces the file it may look unwritable for a moment (on Windows); where a lock
-        // file shows that copies write here, the question is asked again under the lock, so that no write is
-        // dropped for that moment. Nothing is created beside a file that is not to be written.
-        writable = platform::CanReplaceFile(file);
-        const std::optional<platform::FileLock> lock =
-            platform::FileLock::Acquire(file, m_lockPatience, writable);
-        if (lock && !writable)
-            writable = platform::CanReplaceFile(file);
-        if (lock && writable && Rebase(file, entry) && Replace(file, entry))
-            return true;
+        fault = CommitUnderLock(file, entry);
     } catch (...) {
         // Out of memory: the file keeps its old content, as with any failed write.
     }
     // The write did not happen, so the copy must not pretend it did: the next read looks at the disk.
-    Forget(entry);
-    return !writable;
+    if (fault != platform::WriteFault::None)
+        Forget(entry);
+    return fault;
 }
 
-bool IniStore::Replace(const std::string& file, Entry& entry) {
+platform::WriteFault IniStore::CommitUnderLock(const std::string& file, Entry& entry) {
+    // While another copy replaces the file it may look unwritable for a moment (on Windows); where a lock
+    // file shows that copies write here, the question is asked again under the lock, so that no write is
+    // dropped for that moment. Nothing is created beside a file that is not to be written.
+    platform::WriteFault fault = platform::ReplaceObstacle(file);
+    const bool writable = fault == platform::WriteFault::None;
+    const std::optional<platform::FileLock> lock =
+        platform::FileLock::Acquire(file, m_lockPatience, writable);
+    if (!lock)
+        return writable ? platform::WriteFault::Locked : fault;
+    if (!writable)
+        fault = platform::ReplaceObstacle(file);
+    if (fault != platform::WriteFault::None)
+        return fault;
+    return Rebase(file, entry) ? Replace(file, entry) : platform::WriteFault::NotAFile;
+}
+
+platform::WriteFault IniStore::Replace(const std::string& file, Entry& entry) {
     // No other copy of the program is saving while the lock is held, so every temporary file beside the
     // settings file is a crashed save's.
     platform::RemoveLeftovers(file);
@@ -190,14 +223,15 @@ bool IniStore::Replace(const std::string& file, Entry& entry) {
         entry.document.SerializeInto(bytes);
         if (entry.encoding != IniEncoding::Narrow)
             bytes = EncodeIni(std::move(bytes), entry.encoding);
-        std::optional<platform::FileStamp> stamp = platform::ReplaceFile(file, bytes);
+        platform::WriteFault fault = platform::WriteFault::None;
+        std::optional<platform::FileStamp> stamp = platform::ReplaceFile(file, bytes, &fault);
         if (!stamp)
-            return false;
+            return fault;
         entry.stamp = stamp;
         entry.bytes = std::move(bytes);
         entry.settled = false;
         entry.dirty = false;
     }
     entry.changes.clear();
-    return true;
+    return platform::WriteFault::None;
 }

@@ -21,16 +21,20 @@ public:
     // The value of `key` in `section`, or nothing when the file, the section or the key is missing.
     std::optional<std::string> Read(std::string_view file, std::string_view section, std::string_view key);
 
-    // Sets (value given) or deletes (no value) a key, or deletes a whole section (no key).
-    void Write(const std::string& file, std::string_view section, std::optional<std::string_view> key,
-               std::optional<std::string_view> value);
+    // Sets (value given) or deletes (no value) a key, or deletes a whole section (no key). A name or value
+    // that would break the file's lines (a line break anywhere, a "]" in a section name, a "=" in a key, a
+    // key that would read as a section) is refused with LineBreak and has no effect. Otherwise the result is
+    // EndUpdate's, or None inside an open update.
+    platform::WriteFault Write(const std::string& file, std::string_view section,
+                               std::optional<std::string_view> key, std::optional<std::string_view> value);
 
     // Between BeginUpdate and the matching EndUpdate, writes to `file` stay in memory; EndUpdate commits
-    // them as one replacement of the file. Updates nest. EndUpdate is false when it ended the outermost
-    // update and its writes could not be made although the file may be written (another copy kept the
-    // lock, the disk was full); a file nobody may write gives true, as its writes have no effect by design.
+    // them as one replacement of the file. Updates nest. EndUpdate says why the outermost update's writes
+    // did not all reach the file (None when they did, or when there was nothing to write; None too for an
+    // inner update, which leaves that to the outer one). A file that cannot be written is no failure: its
+    // writes have no effect, and the result tells the caller that they were not kept.
     void BeginUpdate(const std::string& file);
-    bool EndUpdate(const std::string& file) noexcept;
+    platform::WriteFault EndUpdate(const std::string& file) noexcept;
 
     // Between BeginLoad and the matching EndLoad, only the first read of `file` checks it against the disk;
     // one owner's values then come from one version of the file. Loads nest.
@@ -64,6 +68,7 @@ private:
         bool checked = false;         // checked against the file in the current load
         std::vector<Change> changes;  // the writes of the open update
         bool dirty = false;           // the changes make the copy differ from the file
+        bool refused = false;         // the open update had a write refused
     };
 
     // What a look at the disk found, compared with a copy.
@@ -75,8 +80,9 @@ private:
     static void Take(Entry& entry, platform::FileContent content);
     static bool Apply(IniDocument& document, const Change& change);
     bool Rebase(const std::string& file, Entry& entry);
-    bool Commit(const std::string& file, Entry& entry) noexcept;
-    static bool Replace(const std::string& file, Entry& entry);
+    platform::WriteFault Commit(const std::string& file, Entry& entry) noexcept;
+    platform::WriteFault CommitUnderLock(const std::string& file, Entry& entry);
+    static platform::WriteFault Replace(const std::string& file, Entry& entry);
     static void ForgetFile(Entry& entry) noexcept;
     static void Forget(Entry& entry) noexcept;
 

@@ -23,11 +23,11 @@ std::string Read(std::string_view file, std::string_view section, std::string_vi
     return text;
 }
 
-void Write(const std::string& file, std::string_view section, std::optional<std::string_view> key,
-           std::optional<std::string_view> value) {
+platform::WriteFault Write(const std::string& file, std::string_view section,
+                           std::optional<std::string_view> key, std::optional<std::string_view> value) {
     std::string trimmedKey = key ? mString::Trim(*key) : std::string();
-    Store().Write(file, mString::Trim(section),
-                  key ? std::optional<std::string_view>(trimmedKey) : std::nullopt, value);
+    return Store().Write(file, mString::Trim(section),
+                         key ? std::optional<std::string_view>(trimmedKey) : std::nullopt, value);
 }
 
 Update::Update(std::string file) : m_file(std::move(file)) {
@@ -39,9 +39,9 @@ Update::~Update() {
         Store().EndUpdate(m_file);
 }
 
-bool Update::Commit() {
+platform::WriteFault Update::Commit() {
     if (!m_open)
-        return true;
+        return platform::WriteFault::None;
     m_open = false;
     return Store().EndUpdate(m_file);
 }

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/FileSystem.h"
+
 class IniStore;
 
 namespace iniFile {
@@ -16,9 +18,11 @@ std::string Read(std::string_view file, std::string_view section, std::string_vi
                  std::string_view defaultValue, std::size_t size);
 
 // Sets `key` of `section` in `file` to `value`; no value deletes the key, no key deletes the section with
-// its keys. A missing folder, a folder in the file's place, or a read-only file or folder make it a no-op.
-void Write(const std::string& file, std::string_view section, std::optional<std::string_view> key,
-           std::optional<std::string_view> value);
+// its keys. A missing folder, a folder in the file's place, or a read-only file or folder make it a no-op,
+// and so does a name or value with a line break, which would change the file's structure. The result says
+// why the write did not reach the file (None when it did, or when an open update will commit it).
+platform::WriteFault Write(const std::string& file, std::string_view section,
+                           std::optional<std::string_view> key, std::optional<std::string_view> value);
 
 // Gathers every write to `file` made while it lives into one atomic update of the file, committed when
 // the last open update ends (also when a failure leaves the scope). The commit takes the file's lock,
@@ -31,10 +35,10 @@ public:
     Update(const Update&) = delete;
     Update& operator=(const Update&) = delete;
 
-    // Ends the update now. False when this was the outermost update and its writes did not reach a file
-    // that may be written (another copy of the program kept the lock too long, the disk was full): the
-    // caller must not count them as saved. An update inside another one leaves that to the outer one.
-    bool Commit();
+    // Ends the update now and says why its writes did not all reach the file when this was the outermost
+    // update (a read-only file, another copy of the program keeping the lock, a full disk): the caller must
+    // not count them as saved. An update inside another one leaves that to the outer one and gives None.
+    platform::WriteFault Commit();
 
 private:
     std::string m_file;

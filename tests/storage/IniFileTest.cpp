@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <tuple>
 
 #include "error/mError.h"
 #include "storage/IniStore.h"
@@ -140,7 +141,7 @@ const WriteCase kWriteCases[] = {
 INSTANTIATE_TEST_SUITE_P(Rules, IniWrite, ::testing::ValuesIn(kWriteCases),
                          [](const auto& info) { return std::string(info.param.name); });
 
-// The parsed copy follows every write, also one whose value holds line breaks and so becomes new lines.
+// The parsed copy follows every write.
 TEST_F(IniFileTest, ReadsBackWhatWasWritten) {
     iniFile::Write(file, "S", "k", " quoted ");
     iniFile::Write(file, "S", "e", "");
@@ -150,10 +151,34 @@ TEST_F(IniFileTest, ReadsBackWhatWasWritten) {
     EXPECT_EQ(iniFile::Read(file, "S", "k", "d", 255), "d");
     iniFile::Write(file, "S", nullopt, nullopt);
     EXPECT_EQ(iniFile::Read(file, "S", "e", "d", 255), "d");
-    iniFile::Write(file, "S", "k", "first\r\n[T]\r\nk=second");
-    EXPECT_EQ(dir.Read("test.ini"), "[S]\r\nk=first\r\n[T]\r\nk=second\r\n");
-    EXPECT_EQ(iniFile::Read(file, "S", "k", "d", 255) + "|" + iniFile::Read(file, "T", "k", "d", 255),
-              "first|second");
+}
+
+// Nothing written can add a section or a key that the caller did not name: such a write is refused and
+// leaves the file as it was, also inside an update, whose other writes are kept.
+TEST_F(IniFileTest, NamesAndValuesThatWouldBreakLinesAreRefused) {
+    iniFile::Write(file, "profile_A", "DESCRIPTION", "kept");
+    const std::string before = dir.Read("test.ini");
+    const std::tuple<const char*, const char*, const char*> refused[] = {
+        {"profile_A", "DESCRIPTION", "evil\r\n[profile_Evil]\r\nTARVOPATH=/bin/sh"},
+        {"profile_A", "DESCRIPTION", "a\nb"},
+        {"profile_A", "DESCRIPTION", "a\rb"},
+        {"profile_A", "K\r\nTARVOPATH", "v"},
+        {"profile_A", "TARVOPATH=/bin/sh\r\nX", "v"},
+        {"profile_A", "[profile_Evil", "v"},
+        {"profile_A", ";comment", "v"},
+        {"profile_A]\r\n[profile_Evil", "k", "v"},
+        {"profile_A]x", "k", "v"}};
+    for (const auto& [section, key, value] : refused) {
+        EXPECT_EQ(iniFile::Write(file, section, key, value), platform::WriteFault::LineBreak) << key << value;
+        EXPECT_EQ(dir.Read("test.ini"), before) << section << key << value;
+    }
+    iniFile::Update update(file);
+    iniFile::Write(file, "profile_A", "DESCRIPTION", "x\ny");
+    iniFile::Write(file, "profile_A", "OTHER", "kept too");
+    EXPECT_EQ(update.Commit(), platform::WriteFault::LineBreak);
+    EXPECT_EQ(iniFile::Read(file, "profile_A", "DESCRIPTION", "d", 255) + "|" +
+                  iniFile::Read(file, "profile_A", "OTHER", "d", 255),
+              "kept|kept too");
 }
 
 TEST_F(IniFileTest, AbsentArgumentsRaiseInvalidValueEmptyOnesDoNot) {

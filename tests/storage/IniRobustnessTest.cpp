@@ -5,6 +5,10 @@
 
 #ifndef _WIN32
 #include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <csignal>
 #endif
@@ -57,11 +61,12 @@ protected:
 using IniTrials = IniRobustness;
 
 // A folder in the file's place, a missing folder or a read-only file: writes have no effect, leave nothing
-// behind, and reads keep giving what the file holds.
+// behind, say why, and reads keep giving what the file holds.
 TEST_F(IniRobustness, WritesThatCannotBeDoneChangeNothing) {
     fs::create_directory(dir.File("folder.ini"));
-    for (const char* name : {"folder.ini", "missing/Pavonel.ini"}) {
-        iniFile::Write(dir.File(name), "S", "k", "v");
+    for (const auto& [name, fault] : {std::pair("folder.ini", platform::WriteFault::NotAFile),
+                                      std::pair("missing/Pavonel.ini", platform::WriteFault::NoFolder)}) {
+        EXPECT_EQ(iniFile::Write(dir.File(name), "S", "k", "v"), fault) << name;
         EXPECT_EQ(iniFile::Read(dir.File(name), "S", "k", "default", 255), "default") << name;
     }
     EXPECT_TRUE(fs::is_directory(dir.File("folder.ini")) && !fs::exists(dir.File("missing")));
@@ -70,7 +75,7 @@ TEST_F(IniRobustness, WritesThatCannotBeDoneChangeNothing) {
     EXPECT_EQ(Read("S", "k"), "old");
     fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
     iniFile::Write(file, "S", "k", "new");
-    iniFile::Write(file, "S", "other", "new");
+    EXPECT_EQ(iniFile::Write(file, "S", "other", "new"), platform::WriteFault::ReadOnlyFile);
     fs::permissions(file, fs::perms::owner_all);
     EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\nk=old\n");
     EXPECT_EQ(EntriesInFolder(), 2u);
@@ -81,7 +86,7 @@ TEST_F(IniRobustness, AReadOnlyFolderIsNotWritten) {
     ONLY_ON_LINUX("a Windows folder's read-only attribute does not keep files in it from changing.");
     dir.Write("Pavonel.ini", "[S]\nk=old\n");
     fs::permissions(dir.Path(), fs::perms::owner_read | fs::perms::owner_exec);
-    iniFile::Write(file, "S", "k", "new");
+    EXPECT_EQ(iniFile::Write(file, "S", "k", "new"), platform::WriteFault::ReadOnlyFolder);
     iniFile::Write(dir.File("Other.ini"), "S", "k", "new");
     fs::permissions(dir.Path(), fs::perms::owner_all);
     EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\nk=old\n");
@@ -104,12 +109,37 @@ TEST_F(IniRobustness, SymbolicLinksAreWrittenThroughAndALoopIsLeftAlone) {
     EXPECT_EQ(fs::status(dir.File("real.ini")).permissions(), kept);
     fs::create_symlink("loop2.ini", dir.File("loop1.ini"));
     fs::create_symlink("loop1.ini", dir.File("loop2.ini"));
-    iniFile::Write(dir.File("loop1.ini"), "S", "k", "1");
+    EXPECT_EQ(iniFile::Write(dir.File("loop1.ini"), "S", "k", "1"), platform::WriteFault::NotAFile);
     EXPECT_TRUE(fs::is_symlink(dir.File("loop1.ini")) && fs::is_symlink(dir.File("loop2.ini")));
     EXPECT_EQ(iniFile::Read(dir.File("loop1.ini"), "S", "k", "default", 255), "default");
 }
 
 #ifndef _WIN32
+// A pipe, a socket or a device in the file's place, directly or behind a link: nothing waits for it, reads
+// give the defaults and writes are refused, leaving it as it was.
+TEST_F(IniRobustness, NothingButARegularFileIsReadOrWritten) {
+    ASSERT_EQ(mkfifo(dir.File("fifo.ini").c_str(), 0644), 0);
+    const int listener = socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const std::string socketPath = dir.File("socket.ini");
+    ASSERT_LT(socketPath.size(), sizeof address.sun_path);
+    socketPath.copy(address.sun_path, socketPath.size());
+    ASSERT_EQ(bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    fs::create_symlink("/dev/zero", dir.File("device.ini"));
+    fs::create_symlink("fifo.ini", dir.File("link.ini"));
+    for (const char* name : {"fifo.ini", "socket.ini", "device.ini", "link.ini"}) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_FALSE(platform::ReadFile(dir.File(name))) << name;
+        EXPECT_EQ(iniFile::Read(dir.File(name), "S", "k", "default", 255), "default") << name;
+        EXPECT_EQ(iniFile::Write(dir.File(name), "S", "k", "v"), platform::WriteFault::NotAFile) << name;
+        EXPECT_LT(std::chrono::steady_clock::now() - start, 2s) << name;
+    }
+    close(listener);
+    EXPECT_TRUE(fs::is_fifo(dir.File("fifo.ini")) && fs::is_socket(socketPath));
+    EXPECT_TRUE(fs::is_symlink(dir.File("device.ini")) && fs::is_symlink(dir.File("link.ini")));
+}
+
 // Lets writes fail once the file would grow beyond `limit` bytes, as a full disk would.
 // The signal keeps its default action, which ends a process that does not expect it.
 class FileSizeLimit {
@@ -140,7 +170,7 @@ TEST_F(IniRobustness, WriteFailingHalfWayLeavesTheOldFile) {
     EXPECT_EQ(Read("S", "k"), "old");
     {
         FileSizeLimit limit(2048);
-        iniFile::Write(file, "S", "k", "new");
+        EXPECT_EQ(iniFile::Write(file, "S", "k", "new"), platform::WriteFault::DiskFull);
     }
     EXPECT_EQ(dir.Read("Pavonel.ini"), old);
     EXPECT_EQ(Read("S", "k"), "old");

@@ -95,6 +95,24 @@ bool WriteAll(int fd, const std::string& bytes) {
     return true;
 }
 
+WriteFault FaultOf(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return WriteFault::DiskFull;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return WriteFault::ReadOnlyFolder;
+        case ELOOP:
+        case EISDIR:
+            return WriteFault::NotAFile;
+        default:
+            return WriteFault::WriteFailed;
+    }
+}
+
 mode_t NewFileMode() {
     mode_t mask = umask(0);
     umask(mask);
@@ -116,10 +134,12 @@ std::optional<FileStamp> WriteAndRename(const std::string& target, const std::st
     // file written even if another program replaced it in the meantime.
     struct stat info {};
     ok = ok && fstat(fd, &info) == 0;
+    const int error = errno;
     ok = close(fd) == 0 && ok;
     if (ok)
         return StampFrom(info);
     unlink(temporary.c_str());
+    errno = error;
     return std::nullopt;
 }
 
@@ -171,7 +191,12 @@ std::optional<FileStamp> StampOf(const std::string& path) {
 }
 
 std::optional<FileContent> ReadFile(const std::string& path) {
-    int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    // A pipe opened for reading waits for a writer, and a device may wait too: neither is opened at all, and
+    // one put in the file's place between the look and the opening is not waited for.
+    struct stat before {};
+    if (stat(path.c_str(), &before) != 0 || !S_ISREG(before.st_mode))
+        return std::nullopt;
+    int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (fd < 0)
         return std::nullopt;
     FileContent content;
@@ -216,29 +241,38 @@ std::string WriteTargetOf(const std::string& path) {
     return {};
 }
 
-bool CanReplaceFile(const std::string& path) {
+WriteFault ReplaceObstacle(const std::string& path) {
     std::string target = WriteTargetOf(path);
     if (target.empty())
-        return false;
+        return WriteFault::NotAFile;
     std::string folder = FolderOf(target);
     struct stat info {};
     if (stat(folder.c_str(), &info) != 0 || !S_ISDIR(info.st_mode))
-        return false;
-    if ((info.st_mode & kAnyWrite) == 0 || access(folder.c_str(), W_OK | X_OK) != 0)
-        return false;
-    if (stat(target.c_str(), &info) != 0)
-        return errno == ENOENT;
-    return S_ISREG(info.st_mode) && (info.st_mode & kAnyWrite) != 0 &&
-           access(target.c_str(), R_OK | W_OK) == 0;
+        return WriteFault::NoFolder;
+    const bool folderWritable = (info.st_mode & kAnyWrite) != 0 && access(folder.c_str(), W_OK | X_OK) == 0;
+    if (stat(target.c_str(), &info) != 0) {
+        if (errno != ENOENT)
+            return WriteFault::NotAFile;
+        return folderWritable ? WriteFault::None : WriteFault::ReadOnlyFolder;
+    }
+    if (!S_ISREG(info.st_mode))
+        return WriteFault::NotAFile;
+    if ((info.st_mode & kAnyWrite) == 0 || access(target.c_str(), R_OK | W_OK) != 0)
+        return WriteFault::ReadOnlyFile;
+    return folderWritable ? WriteFault::None : WriteFault::ReadOnlyFolder;
 }
 
-std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes) {
+std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes, WriteFault* fault) {
     std::string target = WriteTargetOf(path);
-    if (target.empty())
-        return std::nullopt;
-    struct stat info {};
-    mode_t mode = stat(target.c_str(), &info) == 0 ? (info.st_mode & 07777) : NewFileMode();
-    return WriteAndRename(target, bytes, mode);
+    std::optional<FileStamp> stamp;
+    if (!target.empty()) {
+        struct stat info {};
+        mode_t mode = stat(target.c_str(), &info) == 0 ? (info.st_mode & 07777) : NewFileMode();
+        stamp = WriteAndRename(target, bytes, mode);
+    }
+    if (fault != nullptr)
+        *fault = stamp ? WriteFault::None : FaultOf(target.empty() ? ELOOP : errno);
+    return stamp;
 }
 
 void RemoveLeftovers(const std::string& path) {

@@ -86,6 +86,23 @@ bool IsSettled(const FileStamp& stamp) {
     return Ticks(now) - stamp.modified > kTimeResolutionTicks;
 }
 
+WriteFault FaultOf(DWORD error) {
+    switch (error) {
+        case ERROR_DISK_FULL:
+        case ERROR_HANDLE_DISK_FULL:
+        case ERROR_FILE_TOO_LARGE:
+            return WriteFault::DiskFull;
+        case ERROR_ACCESS_DENIED:
+        case ERROR_WRITE_PROTECT:
+            return WriteFault::ReadOnlyFolder;
+        case ERROR_SHARING_VIOLATION:
+        case ERROR_LOCK_VIOLATION:
+            return WriteFault::Locked;
+        default:
+            return WriteFault::WriteFailed;
+    }
+}
+
 bool WriteAll(HANDLE file, const std::string& bytes) {
     std::size_t done = 0;
     while (done < bytes.size()) {
@@ -129,7 +146,9 @@ std::string WriteTemporary(const std::string& target, const std::string& bytes) 
         }
         if (ok)
             return name;
+        const DWORD error = GetLastError();
         DeleteFileA(name.c_str());
+        SetLastError(error);
         return {};
     }
     return {};
@@ -173,7 +192,8 @@ std::optional<FileStamp> StampOf(const std::string& path) {
 std::optional<FileContent> ReadFile(const std::string& path) {
     const Handle file(OpenExisting(path, GENERIC_READ));
     BY_HANDLE_FILE_INFORMATION info;
-    if (!file.Valid() || !GetFileInformationByHandle(file.Get(), &info) || IsFolder(info.dwFileAttributes))
+    if (!file.Valid() || GetFileType(file.Get()) != FILE_TYPE_DISK ||
+        !GetFileInformationByHandle(file.Get(), &info) || IsFolder(info.dwFileAttributes))
         return std::nullopt;
     FileContent content;
     content.stamp = StampFrom(file.Get(), info);
@@ -199,31 +219,43 @@ std::string WriteTargetOf(const std::string& path) {
     return path;
 }
 
-bool CanReplaceFile(const std::string& path) {
+WriteFault ReplaceObstacle(const std::string& path) {
     const DWORD folder = GetFileAttributesA(FolderOf(path).c_str());
     if (folder == INVALID_FILE_ATTRIBUTES || !IsFolder(folder))
-        return false;
+        return WriteFault::NoFolder;
     const DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
-        return GetLastError() == ERROR_FILE_NOT_FOUND;
-    if (IsFolder(attributes) || (attributes & FILE_ATTRIBUTE_READONLY) != 0)
-        return false;
+        return GetLastError() == ERROR_FILE_NOT_FOUND ? WriteFault::None : WriteFault::NotAFile;
+    if (IsFolder(attributes))
+        return WriteFault::NotAFile;
+    if ((attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        return WriteFault::ReadOnlyFile;
     // The access rules of the file itself decide whether this user may change it.
     const Handle file(OpenExisting(path, GENERIC_READ | GENERIC_WRITE));
-    return file.Valid();
+    if (!file.Valid())
+        return GetLastError() == ERROR_SHARING_VIOLATION ? WriteFault::Locked : WriteFault::ReadOnlyFile;
+    return GetFileType(file.Get()) == FILE_TYPE_DISK ? WriteFault::None : WriteFault::NotAFile;
 }
 
-std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes) {
+std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string& bytes, WriteFault* fault) {
+    if (fault != nullptr)
+        *fault = WriteFault::None;
     const std::string temporary = WriteTemporary(path, bytes);
-    if (temporary.empty())
+    if (temporary.empty()) {
+        if (fault != nullptr)
+            *fault = FaultOf(GetLastError());
         return std::nullopt;
+    }
     // ReplaceFileA keeps the old file's attributes and access rules; a new file is simply moved in place.
     const bool replaced = GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES
                               ? ReplaceFileA(path.c_str(), temporary.c_str(), nullptr,
                                              REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != FALSE
                               : MoveFileExA(temporary.c_str(), path.c_str(), MOVEFILE_WRITE_THROUGH) != FALSE;
     if (!replaced) {
+        const DWORD error = GetLastError();
         DeleteFileA(temporary.c_str());
+        if (fault != nullptr)
+            *fault = FaultOf(error);
         return std::nullopt;
     }
     return StampOf(path);

@@ -55,8 +55,10 @@ void frmSave::TranslateDialog() try {
 }
 
 void frmSave::Command1_Click() try {
-    App().SaveDataEx(ucProfiles1->GetSelectedItems());
+    const platform::WriteFault fault = App().SaveDataEx(ucProfiles1->GetSelectedItems());
     Confirm();
+    if (fault != platform::WriteFault::None)
+        App().TellUnsaved(fault);
 } catch (...) {
     mError::ShowError("frmSave.Command1_Click");
 }

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "mainwindow/MainWindowValues.h"
+#include "platform/FileSystem.h"
 
 class Profile;
 class QAction;
@@ -52,7 +53,8 @@ public:
     bool LoadData(Profile& profile);
     // Corrects and checks the input, writes it into the active profile and compares both command lines.
     void RefreshProfileData();
-    void SaveData();
+    // Lets the user choose which changed profiles to save; says why the chosen ones were not saved.
+    platform::WriteFault SaveData();
 
     // The window's own composition of the game's command line, from its controls.
     std::string GetCmdLineParameters() const;
@@ -128,6 +130,9 @@ private:
     bool Form_QueryUnload();
     void Form_Unload();
     void ConnectCommands();
+    // Tells the user that changes could not be saved; while the program ends on request nobody could
+    // answer a window, so the message goes to the standard error output instead.
+    void TellUnsaved(platform::WriteFault fault) const;
 
     // Menus (frmMainMenus.cpp).
     void CreateMenus();

@@ -112,9 +112,9 @@ void frmMain::RefreshProfileData() try {
     mError::PassOn("frmMain.RefreshProfileData");
 }
 
-void frmMain::SaveData() try {
+platform::WriteFault frmMain::SaveData() try {
     RefreshProfileData();
-    App().SaveData();
+    return App().SaveData();
 } catch (...) {
     mError::PassOn("frmMain.SaveData");
 }

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QPushButton>
+#include <iostream>
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
@@ -209,16 +210,17 @@ void frmMain::mnuHelp_About_Click() try {
     mError::ShowError("frmMain.mnuProfil_Manager_Click");
 }
 
-// True when the window may close: after saving, after No, never after Cancel. A failure here is reported
-// and then the user decides whether to quit anyway.
+// True when the window may close: after saving, after No, never after Cancel. A save that did not reach the
+// file keeps the window open, so the changes are not lost unasked. A failure here is reported and then the
+// user decides whether to quit anyway.
 bool frmMain::Form_QueryUnload() {
     try {
         RefreshProfileData();
         if (!App().DataChanged())
             return true;
         const int answer = Ui().MsgBox(MainText("MSG_SaveChangesQuestion"), vbYesNoCancel | vbQuestion);
-        if (answer == vbYes)
-            SaveData();
+        if (answer == vbYes && SaveData() != platform::WriteFault::None)
+            return false;
         return answer != vbCancel;
     } catch (...) {
         mError::ShowError("frmMain.Form_QueryUnload");
@@ -231,7 +233,7 @@ bool frmMain::Form_QueryUnload() {
 }
 
 void frmMain::Form_Unload() try {
-    App().SaveAppSettings();
+    TellUnsaved(App().SaveAppSettings());
     App().Profiles().SaveWhichProfileIsActive();
     mMain::ClosePublicObjects();
 } catch (...) {
@@ -246,11 +248,20 @@ void frmMain::EndOnRequest() {
         // Edits that do not pass the checks cannot be kept; everything already in the profiles is.
     }
     try {
-        App().SaveDataEx(App().Profiles().ChangedProfileNames());
+        TellUnsaved(App().SaveDataEx(App().Profiles().ChangedProfileNames()));
     } catch (...) {
         mError::ShowError("frmMain.EndOnRequest");
     }
     close();
+}
+
+void frmMain::TellUnsaved(platform::WriteFault fault) const {
+    if (fault == platform::WriteFault::None)
+        return;
+    if (m_ending)
+        std::cerr << App().SaveFailureText(fault) << std::endl;
+    else
+        App().TellUnsaved(fault);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -108,8 +108,7 @@ TEST(Win32PlatformTest, FileAttributesAreTheWindowsOnes) {
     EXPECT_EQ(info.Size(), 12u);
     info.SetFullPathName(folder);
     EXPECT_EQ(info.AttributesText(), "Directory, Hidden");
-    EXPECT_FALSE(platform::CanReplaceFile(file));
-    iniFile::Write(file, "S", "k", "new");
+    EXPECT_EQ(iniFile::Write(file, "S", "k", "new"), platform::WriteFault::ReadOnlyFile);
     EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\r\nk=old\r\n");
     SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
 }

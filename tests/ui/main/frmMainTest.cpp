@@ -237,6 +237,29 @@ TEST_F(frmMainTest, ClosingWithNoSavesNoProfile) {
     EXPECT_NE(saved.find("FILEVERSION=1.1"), std::string::npos);
 }
 
+// A save that cannot reach the file says so, naming the file and why, once per attempt: Yes keeps the window
+// open with the profile still changed, so the question comes again; No then closes, telling that the
+// program's own settings were not kept either.
+TEST_F(frmMainTest, ASaveThatCannotReachTheFileSaysSoAndAsksAgain) {
+    const std::string before = ReadIni();
+    const std::filesystem::path ini = g_cApp->IniPath();
+    const QString unsaved = QtText::ToQtLines(
+        Translator().TranslateEx("ERROR_MESSAGES", "ERR_SettingsNotSaved", g_cApp->IniPath(),
+                                 Translator().TranslateEx("ERROR_MESSAGES", "ERR_SaveReadOnlyFile")));
+    const QStringList asked{Message("MAIN_DIALOG", "MSG_SaveChangesQuestion"), unsaved};
+    std::filesystem::permissions(ini, std::filesystem::perms::owner_read);
+    Control<QCheckBox>("ckFreeplay")->setChecked(true);
+    window = [](QDialog& shown) { Find(shown, "Command1")->click(); };
+    EXPECT_FALSE(Close({QMessageBox::Yes}));
+    EXPECT_EQ(boxes, asked);
+    EXPECT_TRUE(Active().DataChanged());
+    boxes.clear();
+    EXPECT_TRUE(Close({QMessageBox::No}));
+    EXPECT_EQ(boxes, asked);
+    std::filesystem::permissions(ini, std::filesystem::perms::owner_all);
+    EXPECT_EQ(ReadIni(), before);
+}
+
 // A failure while closing is reported first; then the user decides whether to quit anyway.
 TEST_F(frmMainTest, AFailureWhileClosingLeavesTheChoiceToTheUser) {
     Control<QComboBox>("txtScenario")->setEditText("scenarios/gone");
