@@ -191,4 +191,20 @@ int16_t RoundToInt16(double value) {
     return static_cast<int16_t>(rounded);
 }
 
+std::string OneLine(std::string_view text) {
+    constexpr std::string_view kBreaks = "\r\n";
+    text = TrimView(text, kBreaks);
+    std::string line;
+    line.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find_first_of(kBreaks, at), text.size());
+        line.append(text, at, end - at);
+        at = text.find_first_not_of(kBreaks, end);
+        if (at == std::string_view::npos)
+            break;
+        line += ' ';
+    }
+    return line;
+}
+
 }  // namespace mString

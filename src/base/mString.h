@@ -19,6 +19,10 @@ std::string Trim(std::string_view text);
 std::string TrimLeft(std::string_view text);
 std::string TrimRight(std::string_view text);
 
+// `text` as one line, as a setting keeps it: the line breaks at either end dropped, each run of them
+// inside turned into one space.
+std::string OneLine(std::string_view text);
+
 std::string UCase(std::string_view text);
 std::string LCase(std::string_view text);
 bool EqualsNoCase(std::string_view a, std::string_view b);

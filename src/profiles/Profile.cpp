@@ -71,17 +71,18 @@ void Profile::SetResolutionWidth(int16_t value) {
 void Profile::SetResolutionHeight(int16_t value) {
     Assign(m_resolutionHeight, value);
 }
+// The texts are kept on one line, whoever hands them in: the settings file holds each on one.
 void Profile::SetScenarioPath(const std::string& value) {
-    Assign(m_scenarioPath, value);
+    Assign(m_scenarioPath, mString::OneLine(value));
 }
 void Profile::SetGraphicPakPath(const std::string& value) {
-    Assign(m_graphicPakPath, value);
+    Assign(m_graphicPakPath, mString::OneLine(value));
 }
 void Profile::SetTarvolinPath(const std::string& value) {
-    Assign(m_tarvolinPath, value);
+    Assign(m_tarvolinPath, mString::OneLine(value));
 }
 void Profile::SetProfileDescription(const std::string& value) {
-    Assign(m_profileDescription, value);
+    Assign(m_profileDescription, mString::OneLine(value));
 }
 void Profile::SetRefresh(int16_t value) {
     Assign(m_refresh, value);

@@ -165,12 +165,13 @@ TEST_F(ProfileTest, UnreadableNumberFailsWithTheCompanionsTrail) {
     }
 }
 
+// Texts handed in with line breaks are kept on one line.
 TEST_F(ProfileTest, SavesEverySettingAndKeepsItsNewState) {
     profile.SetProfileName("profile_Ünïcode");
     profile.SetIsNewProfile(true);
     profile.SetFreeplay(true);
-    profile.SetTarvolinPath("/opt/Spiele mit Leer/tarvolin.exe");
-    profile.SetProfileDescription("Beschreibung – mit Gedankenstrich");
+    profile.SetTarvolinPath("/opt/Spiele mit Leer/tarvolin.exe\r\n");
+    profile.SetProfileDescription("Beschreibung –\r\n\nmit Gedankenstrich");
     profile.SaveData();
     EXPECT_FALSE(profile.DataChanged());
     EXPECT_TRUE(profile.IsNewProfile());

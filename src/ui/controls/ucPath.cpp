@@ -9,7 +9,9 @@
 #include <QSet>
 #include <QUrl>
 
+#include "base/mString.h"
 #include "error/mError.h"
+#include "ui/QtText.h"
 #include "ui/controls/PropertyBag.h"
 
 namespace {
@@ -227,7 +229,16 @@ void ucPath::dropEvent(QDropEvent* event) {
     txtPath_OLEDragDrop(event);
 }
 
-void ucPath::txtPath_Change() try { emit Change(); } catch (...) {
+// A path is one line, however it came in (typed, pasted, dropped or set): the text box loses the line
+// breaks at once and announces the text it then shows.
+void ucPath::txtPath_Change() try {
+    const QString text = m_txtPath->text();
+    if (text.contains(QLatin1Char('\r')) || text.contains(QLatin1Char('\n'))) {
+        m_txtPath->setText(QtText::ToQt(mString::OneLine(QtText::FromQt(text))));
+        return;
+    }
+    emit Change();
+} catch (...) {
     mError::ShowError("ucPath.txtPath_Change");
 }
 

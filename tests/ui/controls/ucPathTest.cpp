@@ -60,7 +60,8 @@ struct DropCase {
 };
 
 const DropCase kDrops[] = {
-    {"UntrimmedTextThatIsNoPath", " no path, just words \r\n", {}, false, " no path, just words \r\n"},
+    {"UntrimmedTextThatIsNoPath", " no path, just words ", {}, false, " no path, just words "},
+    {"LinesBecomeOne", "\r\n/games/a\r\n\n[profile_Evil]\rx\n", {}, false, "/games/a [profile_Evil] x"},
     {"OneFile", nullptr, {"tarvolin.exe"}, false, "tarvolin.exe"},
     {"OneFolder", nullptr, {"game"}, false, "game"},
     {"TwoFiles", nullptr, {"tarvolin.exe", "readme.txt"}, false, ""},
