@@ -17,10 +17,12 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 
-# Debian installs the 64-bit loader outside the search path.
+# Debian installs the 64-bit loader and the server outside the search path. The tests start through a
+# script that says so when Wine itself did not start.
 find_program(PAVONEL_WINE64 NAMES wine64 PATHS /usr/lib/wine NO_CMAKE_FIND_ROOT_PATH)
-if(PAVONEL_WINE64)
-    set(CMAKE_CROSSCOMPILING_EMULATOR ${PAVONEL_WINE64})
+find_program(PAVONEL_WINESERVER NAMES wineserver PATHS /usr/lib/wine NO_CMAKE_FIND_ROOT_PATH)
+if(PAVONEL_WINE64 AND PAVONEL_WINESERVER)
+    set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../wine/run ${PAVONEL_WINE64})
 else()
     message(WARNING "wine64 was not found: the Windows tests are built but cannot run here.")
 endif()
