@@ -1,9 +1,7 @@
 #include "ui/net/mInternet.h"
 
-#include <QNetworkAccessManager>
 #include <QNetworkProxyFactory>
-#include <QNetworkReply>
-#include <QNetworkRequest>
+#include <QSslSocket>
 
 #include "ui/QtText.h"
 
@@ -11,6 +9,8 @@ namespace mInternet {
 namespace {
 
 constexpr int kStatusOk = 200;
+// What one read takes off the connection; the socket keeps no more than this waiting either.
+constexpr qint64 kReadSize = 16 * 1024;
 
 bool IsWeb(const QUrl& url) {
     return url.isValid() &&
@@ -18,15 +18,25 @@ bool IsWeb(const QUrl& url) {
            !url.host().isEmpty();
 }
 
-QNetworkRequest RequestFor(const QUrl& address) {
-    QNetworkRequest request(address);
-    request.setHeader(QNetworkRequest::UserAgentHeader, QString::fromLatin1(kAgent));
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-    // Redirects are followed here rather than by Qt: an automatic one is under way before its host could be
-    // checked, and Qt's own checking sends requests twice and loses the reply after a few redirects.
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    return request;
+bool IsHttps(const QUrl& url) {
+    return url.scheme() == QLatin1String("https");
+}
+
+// The request for a file that must come from the server itself, never from a cache on the way. The
+// connection ends with the reply, so a reply without a length ends where the server closes it.
+QByteArray RequestFor(const QUrl& address) {
+    QByteArray host = address.host(QUrl::FullyEncoded).toLatin1();
+    if (host.contains(':'))
+        host = '[' + host + ']';
+    if (address.port(-1) != -1)
+        host += ':' + QByteArray::number(address.port());
+    QByteArray path = address.path(QUrl::FullyEncoded).toLatin1();
+    if (path.isEmpty())
+        path = "/";
+    if (address.hasQuery())
+        path += '?' + address.query(QUrl::FullyEncoded).toLatin1();
+    return "GET " + path + " HTTP/1.1\r\nHost: " + host + "\r\nUser-Agent: " + kAgent +
+           "\r\nAccept: */*\r\nCache-Control: no-cache\r\nPragma: no-cache\r\nConnection: close\r\n\r\n";
 }
 
 }  // namespace
@@ -48,7 +58,6 @@ Download::Download(const std::string& address, int32_t /*accessType*/, Limits li
         });
         return;
     }
-    m_network = new QNetworkAccessManager(this);
     Get(m_address);
     m_deadline.start(m_limits.timeout);
 }
@@ -60,17 +69,41 @@ Download::~Download() {
 void Download::Cancel() {
     m_over = true;
     m_deadline.stop();
-    if (m_reply) {
-        m_reply->disconnect(this);
-        m_reply->abort();
-    }
+    Close();
+}
+
+// The connection goes at once, so that nothing a server still sends is taken in.
+void Download::Close() {
+    if (!m_socket)
+        return;
+    m_socket->disconnect(this);
+    m_socket->abort();
+    m_socket->deleteLater();
+    m_socket = nullptr;
 }
 
 void Download::Get(const QUrl& address) {
-    m_reply = m_network->get(RequestFor(address));
-    connect(m_reply, &QNetworkReply::metaDataChanged, this, &Download::CheckSize);
-    connect(m_reply, &QNetworkReply::readyRead, this, &Download::CheckSize);
-    connect(m_reply, &QNetworkReply::finished, this, &Download::Done);
+    m_current = address;
+    m_reply.emplace(static_cast<std::size_t>(m_limits.maxBytes));
+    m_socket = new QSslSocket(this);
+    m_socket->setReadBufferSize(kReadSize);
+    connect(m_socket, &QSslSocket::readyRead, this, &Download::Read);
+    connect(m_socket, &QSslSocket::disconnected, this, &Download::Ended);
+    connect(m_socket, &QSslSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
+        if (error == QAbstractSocket::RemoteHostClosedError)
+            Ended();
+        else if (m_socket)
+            Fail(m_socket->errorString());
+    });
+    const QByteArray request = RequestFor(address);
+    const auto send = [this, request] { m_socket->write(request); };
+    if (IsHttps(address)) {
+        connect(m_socket, &QSslSocket::encrypted, this, send);
+        m_socket->connectToHostEncrypted(address.host(), static_cast<quint16>(address.port(443)));
+    } else {
+        connect(m_socket, &QSslSocket::connected, this, send);
+        m_socket->connectToHost(address.host(), static_cast<quint16>(address.port(80)));
+    }
 }
 
 void Download::Fail(const QString& detail) {
@@ -94,46 +127,55 @@ void Download::Redirected(const QUrl& target) {
         Fail(QStringLiteral("more than %1 redirects").arg(m_limits.maxRedirects));
         return;
     }
-    m_reply->disconnect(this);
-    m_reply->deleteLater();
+    Close();
     Get(target);
 }
 
-// Announced or received, more than the limit ends the download; true when it did.
-bool Download::CheckSize() {
-    if (!m_reply)
-        return false;
-    const QVariant announced = m_reply->header(QNetworkRequest::ContentLengthHeader);
-    if ((announced.isValid() && announced.toLongLong() > m_limits.maxBytes) ||
-        m_reply->bytesAvailable() > m_limits.maxBytes) {
-        Fail(QStringLiteral("the reply is longer than %1 KiB").arg(m_limits.maxBytes / 1024));
-        return true;
+// Takes what arrived, a bounded piece at a time, until the reply is complete or has failed.
+void Download::Read() {
+    const QPointer<QSslSocket> socket = m_socket;
+    while (!m_over && socket == m_socket && m_socket && m_socket->bytesAvailable() > 0) {
+        const QByteArray bytes = m_socket->read(kReadSize);
+        switch (m_reply->Feed(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())))) {
+            case update::HttpReply::State::Failed:
+                Fail(QtText::ToQt(m_reply->Error()));
+                return;
+            case update::HttpReply::State::Done:
+                Done();
+                return;
+            default:
+                break;
+        }
     }
-    return false;
+}
+
+// The server closed the connection: what it sent before still counts.
+void Download::Ended() {
+    const QPointer<QSslSocket> socket = m_socket;
+    Read();
+    if (m_over || !socket || socket != m_socket)
+        return;
+    if (m_reply->End() == update::HttpReply::State::Done)
+        Done();
+    else
+        Fail(QtText::ToQt(m_reply->Error()));
 }
 
 void Download::Done() {
-    // Nothing of this object is touched after a failure was told: its receiver may have deleted it.
-    if (m_over || !m_reply || CheckSize())
-        return;
-    const QVariant status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-    if (status.isValid() && !target.isEmpty()) {
-        Redirected(m_reply->url().resolved(target));
+    const int status = m_reply->Status();
+    if (status >= 300 && status < 400 && !m_reply->Location().empty()) {
+        Redirected(m_current.resolved(QUrl(QtText::ToQt(m_reply->Location()))));
         return;
     }
-    // A server's answer other than 200 is named by its status; everything else by what the network says.
-    if (status.isValid() && status.toInt() != kStatusOk) {
-        Fail(QStringLiteral("HTTP status %1").arg(status.toInt()));
+    // A server's answer other than 200 is named by its status.
+    if (status != kStatusOk) {
+        Fail(QStringLiteral("HTTP status %1").arg(status));
         return;
     }
-    if (m_reply->error() != QNetworkReply::NoError || !status.isValid()) {
-        Fail(m_reply->errorString());
-        return;
-    }
-    const QByteArray body = m_reply->readAll();
+    const QByteArray body = QByteArray::fromStdString(m_reply->Body());
     m_over = true;
     m_deadline.stop();
+    Close();
     emit Finished(body);
 }
 

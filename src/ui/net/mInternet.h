@@ -1,23 +1,26 @@
 // The download of one small text file from the web, never from a cache, through the system's proxy
 // settings, as "Pavonel Internet Update". A reply counts only with HTTP status 200, complete, and within
 // the limits: the whole download ends after `timeout` (also when data keeps trickling in), a reply longer
-// than `maxBytes` is a failure rather than a cut text, and redirects are followed only on the address's own
-// host, at most `maxRedirects` of them. It runs on the event loop, so the window that started it stays
-// responsive, and it can be cancelled.
+// than `maxBytes` (or a head longer than update::HttpReply allows) is a failure rather than a cut text, and
+// redirects are followed only on the address's own host, at most `maxRedirects` of them. It runs on the
+// event loop, so the window that started it stays responsive, and it can be cancelled.
+// The reply is read off the connection by update::HttpReply as it arrives, so no server can make the
+// program take in more than the limits, however fast or long it sends.
 #pragma once
 
 #include <QByteArray>
 #include <QObject>
 #include <QPointer>
+#include <QSslSocket>
 #include <QString>
 #include <QTimer>
 #include <QUrl>
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <string>
 
-class QNetworkAccessManager;
-class QNetworkReply;
+#include "update/HttpReply.h"
 
 namespace mInternet {
 
@@ -53,13 +56,16 @@ private:
     void Get(const QUrl& address);
     void Fail(const QString& detail);
     void Redirected(const QUrl& target);
-    bool CheckSize();
+    void Read();
+    void Ended();
     void Done();
+    void Close();
 
     Limits m_limits;
     QUrl m_address;
-    QNetworkAccessManager* m_network = nullptr;
-    QPointer<QNetworkReply> m_reply;
+    QUrl m_current;  // the address now asked, after redirects
+    QPointer<QSslSocket> m_socket;
+    std::optional<update::HttpReply> m_reply;
     QTimer m_deadline;
     bool m_over = false;  // finished, failed or cancelled: nothing more is told
     int m_redirects = 0;
