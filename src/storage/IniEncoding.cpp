@@ -101,6 +101,13 @@ DecodedIni DecodeIni(std::string_view bytes) {
         return {Utf16ToUtf8(bytes.substr(kUtf16BeBom.size()), true), IniEncoding::Utf16Be};
     if (bytes.starts_with(kUtf8Bom))
         return {std::string(bytes.substr(kUtf8Bom.size())), IniEncoding::Utf8Bom};
+    // No 8-bit text holds a NUL byte, while UTF-16 holds one in every plain ASCII character, which a
+    // settings or language file starts with: its first two bytes tell the order.
+    if (bytes.size() >= 2 && (bytes[0] == '\0') != (bytes[1] == '\0')) {
+        const bool bigEndian = bytes[0] == '\0';
+        return {Utf16ToUtf8(bytes, bigEndian),
+                bigEndian ? IniEncoding::Utf16BeBare : IniEncoding::Utf16LeBare};
+    }
     return {std::string(bytes), IniEncoding::Narrow};
 }
 
@@ -110,6 +117,10 @@ std::string EncodeIni(std::string text, IniEncoding encoding) {
             return std::string(kUtf16LeBom) + Utf8ToUtf16(text, false);
         case IniEncoding::Utf16Be:
             return std::string(kUtf16BeBom) + Utf8ToUtf16(text, true);
+        case IniEncoding::Utf16LeBare:
+            return Utf8ToUtf16(text, false);
+        case IniEncoding::Utf16BeBare:
+            return Utf8ToUtf16(text, true);
         case IniEncoding::Utf8Bom:
             return text.insert(0, kUtf8Bom);
         case IniEncoding::Narrow:

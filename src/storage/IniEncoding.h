@@ -6,10 +6,12 @@
 #include <string_view>
 
 enum class IniEncoding {
-    Narrow,   // the system's narrow encoding, no byte-order mark
-    Utf8Bom,  // narrow text behind a UTF-8 byte-order mark, which is kept
-    Utf16Le,  // UTF-16 little endian behind its byte-order mark
-    Utf16Be,  // UTF-16 big endian behind its byte-order mark
+    Narrow,       // the system's narrow encoding, no byte-order mark
+    Utf8Bom,      // narrow text behind a UTF-8 byte-order mark, which is kept
+    Utf16Le,      // UTF-16 little endian behind its byte-order mark
+    Utf16Be,      // UTF-16 big endian behind its byte-order mark
+    Utf16LeBare,  // UTF-16 little endian without a byte-order mark, and so written back
+    Utf16BeBare,  // UTF-16 big endian without a byte-order mark, and so written back
 };
 
 struct DecodedIni {
@@ -17,8 +19,8 @@ struct DecodedIni {
     IniEncoding encoding = IniEncoding::Narrow;
 };
 
-// Recognises the byte-order mark and returns the narrow text behind it.
+// Recognises the byte-order mark, or UTF-16 without one, and returns the narrow text.
 DecodedIni DecodeIni(std::string_view bytes);
 
-// The bytes of `text` in `encoding`, with its byte-order mark.
+// The bytes of `text` in `encoding`, with its byte-order mark if it has one.
 std::string EncodeIni(std::string text, IniEncoding encoding);

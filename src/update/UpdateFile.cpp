@@ -70,7 +70,7 @@ Reply ParseReply(std::string_view text) {
 }
 
 std::optional<std::string> PageAddress(const std::string& path) {
-    if (!path.starts_with('/') || path.starts_with("//"))
+    if (!path.starts_with('/') || path.starts_with("//") || path.size() > kMaxPagePath)
         return std::nullopt;
     for (const char c : path) {
         if (!IsSafePathCharacter(c))

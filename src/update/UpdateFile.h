@@ -45,8 +45,13 @@ struct Reply {
 };
 Reply ParseReply(std::string_view text);
 
+// The longest page path taken: what browsers and servers accept widely. A page address is handed to the
+// desktop's browser, which no file from a server should be able to flood.
+inline constexpr std::size_t kMaxPagePath = 2048;
+
 // The update page for `path` on the current site, or nothing when the path could lead anywhere else: it
-// must start with a single "/" and hold no backslash, no blank and no control character.
+// must start with a single "/", be at most kMaxPagePath long and hold no backslash, no blank and no control
+// character.
 std::optional<std::string> PageAddress(const std::string& path);
 
 }  // namespace update

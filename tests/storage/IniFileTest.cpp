@@ -136,7 +136,11 @@ const WriteCase kWriteCases[] = {
     {"Utf16LeWrittenBackAsUtf16Le", std::string("\xFF\xFE[\0S\0]\0", 8), "S", "k", "\xC3\xA4\xF0\x9F\x98\x80",
      std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\x3D\xD8\x00\xDE\r\0\n\0", 26)},
     {"Utf16BeWrittenBackAsUtf16Be", std::string("\xFE\xFF\0[\0S\0]", 8), "S", "k", "\xC3\xA4",
-     std::string("\xFE\xFF\0[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n", 22)}};
+     std::string("\xFE\xFF\0[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n", 22)},
+    {"Utf16LeWithoutMarkStaysSo", std::string("[\0S\0]\0", 6), "S", "k", "v",
+     std::string("[\0S\0]\0\r\0\n\0k\0=\0v\0\r\0\n\0", 20)},
+    {"Utf16BeWithoutMarkStaysSo", std::string("\0[\0S\0]", 6), "S", "k", "v",
+     std::string("\0[\0S\0]\0\r\0\n\0k\0=\0v\0\r\0\n", 20)}};
 
 INSTANTIATE_TEST_SUITE_P(Rules, IniWrite, ::testing::ValuesIn(kWriteCases),
                          [](const auto& info) { return std::string(info.param.name); });

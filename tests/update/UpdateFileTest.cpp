@@ -53,6 +53,9 @@ TEST(UpdateFileTest, OpensOnlyPagesOnTheSite) {
     const std::string origin = "https://" + std::string(Version::kWebHost);
     EXPECT_EQ(update::PageAddress("/download/2.0?from=1.0#top"), origin + "/download/2.0?from=1.0#top");
     EXPECT_EQ(update::PageAddress("/@other.host/x"), origin + "/@other.host/x");
+    const std::string longest = "/" + std::string(update::kMaxPagePath - 1, 'a');
+    EXPECT_EQ(update::PageAddress(longest), origin + longest);
+    EXPECT_FALSE(update::PageAddress(longest + "a"));
     for (const std::string path : {"", "@other.host/x", "//other.host/x", "http://other/", "/a\\b",
                                    "\\\\other\\x", "/a\tb", "/a\nb", "/a b", "/a\x7f", "other.host/x"})
         EXPECT_FALSE(update::PageAddress(path)) << path;
