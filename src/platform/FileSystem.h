@@ -23,8 +23,9 @@ struct FileStamp {
 struct FileContent {
     std::string bytes;
     FileStamp stamp;
-    // False while the file's modification time is too recent to tell a later edit of the same size apart:
-    // file systems store that time coarsely (up to 2 s), so such a copy must be read again next time.
+    // False while the file's modification or change time is too recent to tell a later edit of the same
+    // size apart: file systems store times coarsely (up to 2 s), and another program may put an old
+    // modification time back, so such a copy must be read again next time.
     bool settled = false;
 };
 

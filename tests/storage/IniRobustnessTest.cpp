@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #ifndef _WIN32
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -272,6 +273,26 @@ TEST_F(IniTrials, AnEditInTheSameSecondAsTheOwnSaveIsNeverOverwritten) {
         fs::remove(file);
     }
 }
+
+#ifndef _WIN32
+// An old file is edited and its old modification time put back (as "touch -r" or an editor keeping dates
+// does), all within the second of its last change on a file system with whole seconds: only the change
+// time, which no program can set, tells, and it must be trusted no more than the modification time.
+TEST_F(IniTrials, AnEditThatPutsTheOldTimeBackIsNeverOverwritten) {
+    platform::SetStampResolution(1'000'000'000);
+    for (int edit = 1; edit <= 3; ++edit) {
+        dir.Write("Pavonel.ini", "[S]\r\nk=0\r\n");
+        const timespec old[2] = {{1'000'000'000, 0}, {1'000'000'000, 0}};
+        ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), old, 0), 0);
+        EXPECT_EQ(Read("S", "k"), "0");
+        std::ofstream(file, std::ios::binary | std::ios::in) << "[S]\r\nk=" << edit << "\r\n";
+        ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), old, 0), 0);
+        EXPECT_EQ(Read("S", "k"), std::to_string(edit));
+        iniFile::Write(file, "S", "other", "x");
+        EXPECT_EQ(dir.Read("Pavonel.ini"), "[S]\r\nk=" + std::to_string(edit) + "\r\nother=x\r\n");
+    }
+}
+#endif
 
 // A copy that hangs holding the lock: the write gives up after the patience, as on an unwritable file, and
 // does not pretend it was made; once the lock is free, writing works again.

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <csignal>
@@ -42,10 +43,12 @@ FileStamp StampFrom(const struct stat& info) {
 // The coarsest modification-time resolution of the file systems a settings file may live on.
 constexpr int64_t kTimeResolutionNs = 2'000'000'000;
 
+// Both times count: an edit that puts back an old modification time still sets the change time, which
+// shows it only once it lies outside the clock's resolution.
 bool IsSettled(const FileStamp& stamp) {
     struct timespec now {};
     clock_gettime(CLOCK_REALTIME, &now);
-    return Nanoseconds(now) - stamp.modified > kTimeResolutionNs;
+    return Nanoseconds(now) - std::max(stamp.modified, stamp.changed) > kTimeResolutionNs;
 }
 
 constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;

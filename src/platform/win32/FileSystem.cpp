@@ -80,10 +80,12 @@ bool IsFolder(DWORD attributes) {
 // The coarsest modification-time resolution of the file systems a settings file may live on (FAT: 2 s).
 constexpr int64_t kTimeResolutionTicks = 20'000'000;
 
+// Both times count: an edit that puts back an old last-write time still sets the change time, which shows
+// it only once it lies outside the clock's resolution.
 bool IsSettled(const FileStamp& stamp) {
     FILETIME now;
     GetSystemTimeAsFileTime(&now);
-    return Ticks(now) - stamp.modified > kTimeResolutionTicks;
+    return Ticks(now) - std::max(stamp.modified, stamp.changed) > kTimeResolutionTicks;
 }
 
 WriteFault FaultOf(DWORD error) {
