@@ -1,5 +1,6 @@
 // The reply reader against replies as servers send them, whole and split at every byte: the same outcome
-// either way, and nothing past the limits is ever kept.
+// either way. The download's own tests cover plain replies, lengths and the limits through a real
+// connection; these are the framings and the malformed heads.
 #include "update/HttpReply.h"
 
 #include <gtest/gtest.h>
@@ -35,24 +36,17 @@ HttpReply Read(const Case& c, std::size_t piece) {
 TEST(HttpReplyTest, ReadsWhatServersSendWholeOrInPieces) {
     const std::string ok = "HTTP/1.1 200 OK\r\n";
     const Case cases[] = {
-        {"length", ok + "Content-Length: 5\r\n\r\nhello", false, State::Done, 200, "hello"},
         {"bare line feeds", "HTTP/1.0 200 OK\nContent-Length: 2\n\nhi", false, State::Done, 200, "hi"},
-        {"until closed", ok + "\r\nall of it", true, State::Done, 200, "all of it"},
         {"still open", ok + "\r\npart", false, State::Body, 200, "part"},
         {"chunked", ok + "Transfer-Encoding: chunked\r\n\r\n3;x=y\r\nabc\r\nA\r\n0123456789\r\n0\r\n\r\n",
          false, State::Done, 200, "abc0123456789"},
         {"chunked wins over a length",
          ok + "Content-Length: 99\r\nTransfer-Encoding: chunked\r\n\r\n1\r\nx\r\n0\r\n", false, State::Done,
          200, "x"},
-        {"exactly the limit", ok + "\r\n" + std::string(kMax, 'a'), true, State::Done, 200,
-         std::string(kMax, 'a')},
         {"redirect without its body", "HTTP/1.1 302 Found\r\nLocation: /next\r\n\r\nignored", false,
          State::Done, 302},
-        {"announced too long", ok + "Content-Length: 17\r\n\r\n", false, State::Failed},
-        {"sent too long", ok + "\r\n" + std::string(kMax + 1, 'a'), false, State::Failed},
         {"chunks too long", ok + "Transfer-Encoding: chunked\r\n\r\n9\r\n123456789\r\n9\r\n", false,
          State::Failed},
-        {"cut short", ok + "Content-Length: 5\r\n\r\nhel", true, State::Failed},
         {"closed in the head", "HTTP/1.1 200", true, State::Failed},
         {"head too long", ok + "X: " + std::string(HttpReply::kMaxHead, 'a'), false, State::Failed},
         {"NUL in the status line", std::string("HTTP/1.1 200\0 OK\r\n\r\n", 20), false, State::Failed},
@@ -75,7 +69,7 @@ TEST(HttpReplyTest, ReadsWhatServersSendWholeOrInPieces) {
                 EXPECT_FALSE(reply.Error().empty()) << c.name;
         }
     }
-    EXPECT_EQ(Read(cases[7], 1).Location(), "/next");
+    EXPECT_EQ(Read(cases[4], 1).Location(), "/next");
 }
 
 }  // namespace
