@@ -22,6 +22,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
     reread.DeleteKey("fuzz", "key");
     (void)reread.DeleteSection("OPTIONS");
+    // Untouched text is written back byte for byte in the encoding it came in.
+    IniEncoding encoding = decoded.encoding;
+    if ((encoding == IniEncoding::Narrow || encoding == IniEncoding::Windows1252) &&
+        EncodeIni(decoded.text, encoding) != bytes)
+        std::abort();
     (void)EncodeIni(reread.Serialize(), decoded.encoding);
     return 0;
 }

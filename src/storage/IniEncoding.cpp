@@ -1,6 +1,9 @@
 #include "storage/IniEncoding.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
+#include <optional>
 
 namespace {
 
@@ -64,24 +67,71 @@ std::string Utf16ToUtf8(std::string_view bytes, bool bigEndian) {
     return out;
 }
 
-// Decodes one UTF-8 sequence at `i` and advances `i`; malformed input yields one replacement character.
-char32_t NextUtf8(std::string_view text, std::size_t& i) {
+// Decodes one UTF-8 sequence at `i` and advances `i`; nothing for a malformed one.
+std::optional<char32_t> DecodeUtf8(std::string_view text, std::size_t& i) {
     auto at = [&text](std::size_t k) { return static_cast<unsigned char>(text[k]); };
     unsigned char lead = at(i++);
     if (lead < 0x80)
         return lead;
     int extra = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : -1;
     if (extra < 0 || lead > 0xF4 || i + static_cast<std::size_t>(extra) > text.size())
-        return kReplacement;
+        return std::nullopt;
     char32_t code = lead & (0x3F >> extra);
     for (int k = 0; k < extra; ++k) {
         if ((at(i) & 0xC0) != 0x80)
-            return kReplacement;
+            return std::nullopt;
         code = (code << 6) | (at(i++) & 0x3F);
     }
     static constexpr char32_t kSmallest[] = {0, 0x80, 0x800, 0x10000};
     bool valid = code >= kSmallest[extra] && code <= 0x10FFFF && !(code >= 0xD800 && code < 0xE000);
-    return valid ? code : kReplacement;
+    return valid ? std::optional<char32_t>(code) : std::nullopt;
+}
+
+// The same, with one replacement character for a malformed sequence.
+char32_t NextUtf8(std::string_view text, std::size_t& i) {
+    return DecodeUtf8(text, i).value_or(kReplacement);
+}
+
+bool IsUtf8(std::string_view text) {
+    for (std::size_t i = 0; i < text.size();) {
+        if (!DecodeUtf8(text, i))
+            return false;
+    }
+    return true;
+}
+
+// What Windows-1252 puts at 0x80 to 0x9F; its five unassigned bytes stand for the C1 controls of the same
+// number, as Windows itself converts them, so that every byte comes back as it was.
+constexpr char32_t kWindows1252High[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                           0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                           0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                           0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+std::string Windows1252ToUtf8(std::string_view bytes) {
+    std::string out;
+    out.reserve(bytes.size() + bytes.size() / 8);
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        AppendUtf8(out, byte >= 0x80 && byte < 0xA0 ? kWindows1252High[byte - 0x80] : byte);
+    }
+    return out;
+}
+
+// The Windows-1252 bytes of `text`, or nothing when it holds a character that the code page lacks.
+std::optional<std::string> Utf8ToWindows1252(std::string_view text) {
+    std::string out;
+    out.reserve(text.size());
+    for (std::size_t i = 0; i < text.size();) {
+        const char32_t code = NextUtf8(text, i);
+        const auto* high = std::find(std::begin(kWindows1252High), std::end(kWindows1252High), code);
+        if (high != std::end(kWindows1252High))
+            out.push_back(static_cast<char>(0x80 + (high - std::begin(kWindows1252High))));
+        else if (code < 0x80 || (code >= 0xA0 && code < 0x100))
+            out.push_back(static_cast<char>(code));
+        else
+            return std::nullopt;
+    }
+    return out;
 }
 
 std::string Utf8ToUtf16(std::string_view text, bool bigEndian) {
@@ -108,11 +158,20 @@ DecodedIni DecodeIni(std::string_view bytes) {
         return {Utf16ToUtf8(bytes, bigEndian),
                 bigEndian ? IniEncoding::Utf16BeBare : IniEncoding::Utf16LeBare};
     }
+    // Text that is not UTF-8 was written by a Windows tool in its "ANSI" code page; UTF-8 (plain ASCII
+    // among it) stays what it is.
+    if (!IsUtf8(bytes))
+        return {Windows1252ToUtf8(bytes), IniEncoding::Windows1252};
     return {std::string(bytes), IniEncoding::Narrow};
 }
 
-std::string EncodeIni(std::string text, IniEncoding encoding) {
+std::string EncodeIni(std::string text, IniEncoding& encoding) {
     switch (encoding) {
+        case IniEncoding::Windows1252:
+            if (std::optional<std::string> bytes = Utf8ToWindows1252(text))
+                return std::move(*bytes);
+            encoding = IniEncoding::Utf8Bom;
+            return text.insert(0, kUtf8Bom);
         case IniEncoding::Utf16Le:
             return std::string(kUtf16LeBom) + Utf8ToUtf16(text, false);
         case IniEncoding::Utf16Be:

@@ -12,6 +12,7 @@ enum class IniEncoding {
     Utf16Be,      // UTF-16 big endian behind its byte-order mark
     Utf16LeBare,  // UTF-16 little endian without a byte-order mark, and so written back
     Utf16BeBare,  // UTF-16 big endian without a byte-order mark, and so written back
+    Windows1252,  // not UTF-8: what Windows tools write in their "ANSI" code page
 };
 
 struct DecodedIni {
@@ -19,8 +20,11 @@ struct DecodedIni {
     IniEncoding encoding = IniEncoding::Narrow;
 };
 
-// Recognises the byte-order mark, or UTF-16 without one, and returns the narrow text.
+// Recognises the byte-order mark, or UTF-16 without one, or Windows-1252 in text that is not UTF-8, and
+// returns the text in UTF-8.
 DecodedIni DecodeIni(std::string_view bytes);
 
-// The bytes of `text` in `encoding`, with its byte-order mark if it has one.
-std::string EncodeIni(std::string text, IniEncoding encoding);
+// The bytes of `text` in `encoding`, with its byte-order mark if it has one. Text that Windows-1252 cannot
+// hold (a Greek or Japanese name) turns a Windows-1252 file into UTF-8 with a byte-order mark, which
+// `encoding` then says: every character of every line is kept, and Windows tools recognise the mark.
+std::string EncodeIni(std::string text, IniEncoding& encoding);

@@ -11,6 +11,7 @@
 #include <tuple>
 
 #include "error/mError.h"
+#include "storage/IniEncoding.h"
 #include "storage/IniStore.h"
 #include "storage/mIni.h"
 #include "support/FailureMatchers.h"
@@ -144,6 +145,36 @@ const WriteCase kWriteCases[] = {
 
 INSTANTIATE_TEST_SUITE_P(Rules, IniWrite, ::testing::ValuesIn(kWriteCases),
                          [](const auto& info) { return std::string(info.param.name); });
+
+// The same file as Windows and Linux tools save it reads the same and is written back in its own encoding,
+// only the changed line differing; Windows-1252 is what Notepad wrote for decades.
+TEST_F(IniFileTest, EveryEncodingReadsTheSameAndIsWrittenBackInItsOwn) {
+    const std::string before =
+        "[profile_J\xC3\xBCrgen]\r\nTARVOPATH=C:\\J\xC3\xBCrgen\\tarvolin.exe\r\nDESCRIPTION=x\r\n";
+    const std::string after =
+        "[profile_J\xC3\xBCrgen]\r\nTARVOPATH=C:\\J\xC3\xBCrgen\\tarvolin.exe\r\nDESCRIPTION=H\xC3\xB6he "
+        "\xE2\x80\x93 2\r\n";
+    const std::pair<IniEncoding, std::string> windows1252{
+        IniEncoding::Windows1252,
+        "[profile_J\xFCrgen]\r\nTARVOPATH=C:\\J\xFCrgen\\tarvolin.exe\r\nDESCRIPTION=H\xF6he \x96 2\r\n"};
+    for (IniEncoding encoding : {IniEncoding::Narrow, IniEncoding::Utf8Bom, IniEncoding::Utf16Le,
+                                 IniEncoding::Utf16Be, IniEncoding::Windows1252}) {
+        IniEncoding written = encoding;
+        dir.Write("test.ini", EncodeIni(before, written));
+        iniFile::Store().Clear();
+        const std::string section = "profile_J\xC3\xBCrgen";
+        EXPECT_EQ(iniFile::Read(file, section, "TARVOPATH", "", 255), "C:\\J\xC3\xBCrgen\\tarvolin.exe");
+        iniFile::Write(file, section, "DESCRIPTION", "H\xC3\xB6he \xE2\x80\x93 2");
+        EXPECT_EQ(dir.Read("test.ini"),
+                  encoding == windows1252.first ? windows1252.second : EncodeIni(after, written))
+            << static_cast<int>(encoding);
+    }
+    // Text that Windows-1252 cannot hold turns the file into UTF-8 with a byte-order mark, every line kept.
+    iniFile::Write(file, "profile_J\xC3\xBCrgen", "DESCRIPTION", "\xCE\xB1\xCE\xB2");
+    EXPECT_EQ(dir.Read("test.ini"),
+              "\xEF\xBB\xBF[profile_J\xC3\xBCrgen]\r\nTARVOPATH=C:\\J\xC3\xBCrgen\\tarvolin."
+              "exe\r\nDESCRIPTION=\xCE\xB1\xCE\xB2\r\n");
+}
 
 // The parsed copy follows every write.
 TEST_F(IniFileTest, ReadsBackWhatWasWritten) {

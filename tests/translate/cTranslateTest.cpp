@@ -5,6 +5,8 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
+#include "platform/FileSystem.h"
+#include "storage/IniEncoding.h"
 #include "support/AppFixture.h"
 
 namespace {
@@ -63,6 +65,20 @@ TEST_F(cTranslateTest, FailureIsReportedAndGivesNoText) {
     EXPECT_EQ(T("GLOBAL", "BTN_Yes"), "");
     ASSERT_EQ(ui.reports.size(), 1u);
     EXPECT_EQ(ui.reports[0].source.rfind("cTranslate.TranslateEx\r\n", 0), 0u);
+}
+
+// A translator's file saved in Windows' "ANSI" code page shows every text as its UTF-8 original does.
+TEST_F(cTranslateTest, AWindows1252LanguageFileReadsLikeItsUtf8Original) {
+    const auto original = platform::ReadFile(std::string(PAVONEL_SOURCE_DIR) + "/config/LNG_DE.ini");
+    ASSERT_TRUE(original);
+    IniEncoding encoding = IniEncoding::Windows1252;
+    WriteLanguage("DE", EncodeIni(original->bytes, encoding));
+    ASSERT_EQ(encoding, IniEncoding::Windows1252);
+    UseLanguage("DE");
+    EXPECT_EQ(T("GLOBAL", "BTN_CLOSE"), "Schließen");
+    EXPECT_EQ(T("MAIN_DIALOG", "LBL_FREEPLAY_DESC"),
+              "Startet Tarvolin im Modus „Freies Spiel“ (Spieloption -freeplay).");
+    EXPECT_EQ(T("ERROR_MESSAGES", "ERR_SaveDiskFull"), "Der Datenträger ist voll.");
 }
 
 }  // namespace
