@@ -193,6 +193,10 @@ void RenderDialogs(ScreenshotSession& session) {
     const std::unique_ptr<QMessageBox> box =
         mMessageBox::Create(question, vbOKCancel | vbExclamation, nullptr);
     session.Save(*box, QStringLiteral("MsgBox"));
+
+    const std::unique_ptr<QMessageBox> unsaved = mMessageBox::Create(
+        App().SaveFailureText(platform::WriteFault::ReadOnlyFolder), vbOKOnly | vbExclamation, nullptr);
+    session.Save(*unsaved, QStringLiteral("MsgBox_NotSaved"));
 }
 
 void RenderControls(ScreenshotSession& session) {
