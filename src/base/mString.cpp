@@ -131,6 +131,10 @@ bool StartsWithNoCase(std::string_view text, std::string_view prefix) {
     return text.size() >= prefix.size() && EqualsNoCase(text.substr(0, prefix.size()), prefix);
 }
 
+bool EndsWithNoCase(std::string_view text, std::string_view ending) {
+    return text.size() >= ending.size() && EqualsNoCase(text.substr(text.size() - ending.size()), ending);
+}
+
 std::string StripAtNul(std::string_view text) {
     return std::string(text.substr(0, text.find('\0')));
 }

@@ -27,6 +27,7 @@ std::string UCase(std::string_view text);
 std::string LCase(std::string_view text);
 bool EqualsNoCase(std::string_view a, std::string_view b);
 bool StartsWithNoCase(std::string_view text, std::string_view prefix);
+bool EndsWithNoCase(std::string_view text, std::string_view ending);
 
 // The first line of `text` and the break that ends it: CR LF, LF, CR, or nothing at the end of the text.
 struct Line {

@@ -28,11 +28,6 @@ std::vector<std::string> NamesIn(const std::string& folder, bool folders) {
     return names;
 }
 
-bool EndsWithNoCase(const std::string& text, std::string_view ending) {
-    return text.size() >= ending.size() &&
-           mString::EqualsNoCase(std::string_view(text).substr(text.size() - ending.size()), ending);
-}
-
 }  // namespace
 
 std::string GetScenarioPath(const std::string& tarvolinPath) {
@@ -55,7 +50,7 @@ std::vector<std::string> ScenarioEntries(const std::string& tarvolinPath) try {
 std::vector<std::string> DatenPakEntries(const std::string& tarvolinPath) try {
     std::vector<std::string> entries;
     for (std::string& name : NamesIn(GetDatenPakPath(tarvolinPath), false)) {
-        if (EndsWithNoCase(name, ".pak"))
+        if (mString::EndsWithNoCase(name, ".pak"))
             entries.push_back(std::move(name));
     }
     return entries;

@@ -53,8 +53,7 @@ bool PosixPlatform::WriteShellLink(const std::string& linkFile, const ShellLink&
     if (link.target.empty() || linkFile.empty())
         return false;
     std::string name = fs::path(platform::PathOf(linkFile)).filename().string();
-    if (name.size() >= kEnding.size() &&
-        mString::EqualsNoCase(std::string_view(name).substr(name.size() - kEnding.size()), kEnding))
+    if (mString::EndsWithNoCase(name, kEnding))
         name.resize(name.size() - kEnding.size());
     const platform::DesktopEntry entry{name, link.description, ExecOf(link, m_wineCandidates),
                                        link.workingDirectory};

@@ -88,9 +88,7 @@ bool IsFolder(const std::string& path) {
 
 bool HasProgramName(const std::string& path) {
     constexpr std::string_view kSuffix = ".exe";
-    return path.size() > kSuffix.size() &&
-           mString::EqualsNoCase(std::string_view(path).substr(path.size() - kSuffix.size()), kSuffix) &&
-           IsRegularFile(path);
+    return path.size() > kSuffix.size() && mString::EndsWithNoCase(path, kSuffix) && IsRegularFile(path);
 }
 
 bool HasExecuteBit(const std::string& path) {
