@@ -3,7 +3,6 @@
 #include <QPainter>
 
 #include "error/mError.h"
-#include "ui/controls/PropertyBag.h"
 
 // The rule reports its failures under the path field's module name, "ucPath.": report names are data that
 // error reports sent in by users are matched against, so they stay as they are.
@@ -28,22 +27,9 @@ QColor HLine::BackColor() const {
 
 void HLine::SetBackColor(const QColor& value) try {
     m_backColor = value;
-    emit PropertyChanged(QStringLiteral("BackColor"));
     update();
 } catch (...) {
     mError::PassOn("ucPath.Let BackColor");
-}
-
-void HLine::ReadProperties(const PropertyBag& bag) try {
-    SetBackColor(bag.ReadColor(QStringLiteral("BackColor"), DefaultBackColor()));
-} catch (...) {
-    mError::ShowError("ucPath.UserControl_ReadProperties");
-}
-
-void HLine::WriteProperties(PropertyBag& bag) const try {
-    bag.WriteProperty(QStringLiteral("BackColor"), BackColor(), DefaultBackColor());
-} catch (...) {
-    mError::ShowError("ucPath.UserControl_WriteProperties");
 }
 
 QSize HLine::sizeHint() const {

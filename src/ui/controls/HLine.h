@@ -6,8 +6,6 @@
 #include <QLine>
 #include <QWidget>
 
-class PropertyBag;
-
 class HLine : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor)
@@ -15,22 +13,15 @@ class HLine : public QWidget {
 public:
     explicit HLine(QWidget* parent = nullptr);
 
-    // The band's colour; the system's button face unless a design says otherwise.
+    // The band's colour; the system's button face unless a host sets another.
     QColor BackColor() const;
     void SetBackColor(const QColor& value);
-
-    void ReadProperties(const PropertyBag& bag);
-    void WriteProperties(PropertyBag& bag) const;
 
     // The dark line (the system's button shadow) and the light line (its 3-D highlight) under it.
     QLine Line1() const { return m_line1; }
     QLine Line2() const { return m_line2; }
 
     QSize sizeHint() const override;
-
-signals:
-    // A persisted property was set; its key tells the host which.
-    void PropertyChanged(const QString& key);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

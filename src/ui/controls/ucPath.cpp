@@ -12,16 +12,10 @@
 #include "base/mString.h"
 #include "error/mError.h"
 #include "ui/QtText.h"
-#include "ui/controls/PropertyBag.h"
 
 namespace {
 
 const QColor kDefaultBackColor(0xFF, 0xFF, 0xFF);
-
-// How a 16-bit Boolean is saved: true is -1, false 0.
-int16_t SavedFlag(bool value) {
-    return value ? -1 : 0;
-}
 
 // File managers on Linux add a plain-text copy of the file list they drag. That copy is no text of its own:
 // the drop must behave as the file list it mirrors, as it does where file drags carry no text at all.
@@ -91,7 +85,6 @@ void ucPath::SetBackColor(const QColor& value) try {
     QPalette palette = m_txtPath->palette();
     palette.setColor(QPalette::Base, value);
     m_txtPath->setPalette(palette);
-    emit PropertyChanged(QStringLiteral("BackColor"));
 } catch (...) {
     mError::PassOn("ucPath.Let BackColor");
 }
@@ -100,10 +93,7 @@ QString ucPath::Text() const {
     return mError::WithTrail("ucPath.Get Text", [this] { return m_txtPath->text(); });
 }
 
-void ucPath::SetText(const QString& value) try {
-    m_txtPath->setText(value);
-    emit PropertyChanged(QStringLiteral("Text"));
-} catch (...) {
+void ucPath::SetText(const QString& value) try { m_txtPath->setText(value); } catch (...) {
     mError::PassOn("ucPath.Let Text");
 }
 
@@ -111,10 +101,7 @@ bool ucPath::AcceptFiles() const {
     return mError::WithTrail("ucPath.Get AcceptFiles", [this] { return m_acceptFiles; });
 }
 
-void ucPath::SetAcceptFiles(bool value) try {
-    m_acceptFiles = value;
-    emit PropertyChanged(QStringLiteral("AcceptFiles"));
-} catch (...) {
+void ucPath::SetAcceptFiles(bool value) try { m_acceptFiles = value; } catch (...) {
     mError::PassOn("ucPath.Let AcceptFiles");
 }
 
@@ -122,10 +109,7 @@ bool ucPath::Enabled() const {
     return mError::WithTrail("ucPath.Get Enabled", [this] { return m_txtPath->isEnabled(); });
 }
 
-void ucPath::SetEnabled(bool value) try {
-    m_txtPath->setEnabled(value);
-    emit PropertyChanged(QStringLiteral("Enabled"));
-} catch (...) {
+void ucPath::SetEnabled(bool value) try { m_txtPath->setEnabled(value); } catch (...) {
     mError::PassOn("ucPath.Let Enabled");
 }
 
@@ -133,10 +117,7 @@ bool ucPath::AcceptFolders() const {
     return mError::WithTrail("ucPath.Get AcceptFolders", [this] { return m_acceptFolders; });
 }
 
-void ucPath::SetAcceptFolders(bool value) try {
-    m_acceptFolders = value;
-    emit PropertyChanged(QStringLiteral("AcceptFolders"));
-} catch (...) {
+void ucPath::SetAcceptFolders(bool value) try { m_acceptFolders = value; } catch (...) {
     mError::PassOn("ucPath.Let AcceptFolders");
 }
 
@@ -148,40 +129,8 @@ bool ucPath::Locked() const {
     return mError::WithTrail("ucPath.Get Locked", [this] { return m_txtPath->isReadOnly(); });
 }
 
-void ucPath::SetLocked(bool value) try {
-    m_txtPath->setReadOnly(value);
-    emit PropertyChanged(QStringLiteral("Locked"));
-} catch (...) {
+void ucPath::SetLocked(bool value) try { m_txtPath->setReadOnly(value); } catch (...) {
     mError::PassOn("ucPath.Let Locked");
-}
-
-void ucPath::InitProperties() try {
-    m_acceptFiles = false;
-    m_acceptFolders = false;
-} catch (...) {
-    mError::ShowError("ucPath.UserControl_InitProperties");
-}
-
-void ucPath::ReadProperties(const PropertyBag& bag) try {
-    SetBackColor(bag.ReadColor(QStringLiteral("BackColor"), kDefaultBackColor));
-    SetText(bag.ReadText(QStringLiteral("Text"), QString()));
-    SetAcceptFiles(bag.ReadInt16(QStringLiteral("AcceptFiles"), 0) != 0);
-    SetEnabled(bag.ReadBool(QStringLiteral("Enabled"), true));
-    SetAcceptFolders(bag.ReadInt16(QStringLiteral("AcceptFolders"), 0) != 0);
-    SetLocked(bag.ReadBool(QStringLiteral("Locked"), false));
-} catch (...) {
-    mError::ShowError("ucPath.UserControl_ReadProperties");
-}
-
-void ucPath::WriteProperties(PropertyBag& bag) const try {
-    bag.WriteProperty(QStringLiteral("BackColor"), BackColor(), kDefaultBackColor);
-    bag.WriteProperty(QStringLiteral("Text"), Text(), QString());
-    bag.WriteProperty(QStringLiteral("AcceptFiles"), SavedFlag(AcceptFiles()), int16_t{0});
-    bag.WriteProperty(QStringLiteral("Enabled"), Enabled(), true);
-    bag.WriteProperty(QStringLiteral("AcceptFolders"), SavedFlag(AcceptFolders()), int16_t{0});
-    bag.WriteProperty(QStringLiteral("Locked"), Locked(), false);
-} catch (...) {
-    mError::ShowError("ucPath.UserControl_WriteProperties");
 }
 
 QSize ucPath::sizeHint() const {

@@ -8,7 +8,6 @@
 #include <QString>
 #include <QWidget>
 
-class PropertyBag;
 class QDragMoveEvent;
 class QDropEvent;
 class QLineEdit;
@@ -27,12 +26,12 @@ class ucPath : public QWidget {
 public:
     explicit ucPath(QWidget* parent = nullptr);
 
-    // The text box's background; white unless a design says otherwise.
+    // The text box's background; white unless a host sets another.
     QColor BackColor() const;
     void SetBackColor(const QColor& value);
     QString Text() const;
     void SetText(const QString& value);
-    // Kept and saved for the designs that set them; a drop is taken by the same rule whatever they say.
+    // Kept for the hosts that set them; a drop is taken by the same rule whatever they say.
     bool AcceptFiles() const;
     void SetAcceptFiles(bool value);
     // The text box's own enabled state (the control itself stays enabled).
@@ -46,19 +45,12 @@ public:
     bool Locked() const;
     void SetLocked(bool value);
 
-    // The design life cycle: a new control, one placed from a saved design, and saving the design.
-    void InitProperties();
-    void ReadProperties(const PropertyBag& bag);
-    void WriteProperties(PropertyBag& bag) const;
-
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
     // After every change of the text: typed, set through Text, or dropped.
     void Change();
-    // A persisted property was set; its key tells the host which.
-    void PropertyChanged(const QString& key);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -8,7 +8,6 @@
 #include <QStyleOptionFocusRect>
 
 #include "error/mError.h"
-#include "ui/controls/PropertyBag.h"
 #include "ui/controls/TabColours.h"
 
 namespace {
@@ -60,7 +59,6 @@ QString ucTab::Caption() const {
 
 void ucTab::SetCaption(const QString& value) try {
     m_label->setText(value);
-    emit PropertyChanged(QStringLiteral("Caption"));
     UserControl_Resize();
 } catch (...) {
     mError::PassOn("Let Caption");
@@ -72,24 +70,10 @@ bool ucTab::IsActive() const {
 
 void ucTab::SetIsActive(bool value) try {
     m_isActive = value;
-    emit PropertyChanged(QStringLiteral("IsActive"));
     m_label->move(kLabelLeft, LookOf(value).labelTop);
     update();
 } catch (...) {
     mError::PassOn("Let IsActive");
-}
-
-void ucTab::ReadProperties(const PropertyBag& bag) try {
-    SetCaption(bag.ReadText(QStringLiteral("Caption"), kDefaultCaption));
-    SetIsActive(bag.ReadInt16(QStringLiteral("IsActive"), 0) != 0);
-} catch (...) {
-    mError::ShowError("UserControl_ReadProperties");
-}
-
-void ucTab::WriteProperties(PropertyBag& bag) const try {
-    bag.WriteProperty(QStringLiteral("Caption"), Caption(), kDefaultCaption);
-} catch (...) {
-    mError::ShowError("UserControl_WriteProperties");
 }
 
 QRect ucTab::FrameRect() const {

@@ -8,7 +8,6 @@
 #include <QString>
 #include <QWidget>
 
-class PropertyBag;
 class QLabel;
 
 class ucTab : public QWidget {
@@ -25,10 +24,6 @@ public:
     bool IsActive() const;
     void SetIsActive(bool value);
 
-    // The active state is read from a saved design but never saved: hosts set it at run time.
-    void ReadProperties(const PropertyBag& bag);
-    void WriteProperties(PropertyBag& bag) const;
-
     // The frame as it is drawn (it may reach below the control) and its border width.
     QRect FrameRect() const;
     int FrameBorderWidth() const;
@@ -42,7 +37,6 @@ signals:
     // At the end of every layout of the tab's width.
     void Resize();
     // A persisted property was set; its key tells the host which.
-    void PropertyChanged(const QString& key);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -3,7 +3,6 @@
 #include <QPainter>
 
 #include "error/mError.h"
-#include "ui/controls/PropertyBag.h"
 #include "ui/controls/TabColours.h"
 
 ucTabArea::ucTabArea(QWidget* parent)
@@ -18,7 +17,6 @@ QColor ucTabArea::BorderColor() const {
 
 void ucTabArea::SetBorderColor(const QColor& value) try {
     m_borderColor = value;
-    emit PropertyChanged(QStringLiteral("BorderColor"));
     update();
 } catch (...) {
     mError::PassOn("Let BorderColor");
@@ -30,24 +28,9 @@ QColor ucTabArea::BackColor() const {
 
 void ucTabArea::SetBackColor(const QColor& value) try {
     m_backColor = value;
-    emit PropertyChanged(QStringLiteral("BackColor"));
     update();
 } catch (...) {
     mError::PassOn("Let BackColor");
-}
-
-void ucTabArea::ReadProperties(const PropertyBag& bag) try {
-    SetBorderColor(bag.ReadColor(QStringLiteral("BorderColor"), TabColours::kBorder));
-    SetBackColor(bag.ReadColor(QStringLiteral("BackColor"), TabColours::kFill));
-} catch (...) {
-    mError::ShowError("UserControl_ReadProperties");
-}
-
-void ucTabArea::WriteProperties(PropertyBag& bag) const try {
-    bag.WriteProperty(QStringLiteral("BorderColor"), BorderColor(), TabColours::kBorder);
-    bag.WriteProperty(QStringLiteral("BackColor"), BackColor(), TabColours::kFill);
-} catch (...) {
-    mError::ShowError("UserControl_WriteProperties");
 }
 
 QSize ucTabArea::sizeHint() const {

@@ -6,8 +6,6 @@
 #include <QRect>
 #include <QWidget>
 
-class PropertyBag;
-
 class ucTabArea : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QColor BorderColor READ BorderColor WRITE SetBorderColor)
@@ -21,17 +19,10 @@ public:
     QColor BackColor() const;
     void SetBackColor(const QColor& value);
 
-    void ReadProperties(const PropertyBag& bag);
-    void WriteProperties(PropertyBag& bag) const;
-
     // The rectangle as it is drawn, in the control's pixels.
     QRect FrameRect() const { return m_frame; }
 
     QSize sizeHint() const override;
-
-signals:
-    // A persisted property was set; its key tells the host which.
-    void PropertyChanged(const QString& key);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

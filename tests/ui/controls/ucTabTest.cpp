@@ -7,7 +7,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "ui/controls/PropertyBag.h"
 #include "ui/controls/ucTabArea.h"
 
 namespace {
@@ -94,17 +93,6 @@ TEST_F(ucTabTest, TabMovesToTheNextTabWhichShowsItsFocus) {
     QTest::keyClick(tab, Qt::Key_Tab);
     EXPECT_TRUE(next->hasFocus());
     EXPECT_NE(next->grab().toImage(), unfocused) << "no focus rectangle around the caption";
-}
-
-// Hosts set the active state at run time, so it is never saved; a design may still carry it.
-TEST_F(ucTabTest, ReadsButNeverSavesTheActiveState) {
-    tab->SetIsActive(true);
-    PropertyBag design;
-    tab->WriteProperties(design);
-    EXPECT_EQ(design.Keys(), QStringList());
-    design.WriteProperty(QStringLiteral("IsActive"), -1, 0);
-    next->ReadProperties(design);
-    EXPECT_TRUE(next->IsActive());
 }
 
 // Hosts hide a page area by shrinking it to nothing; it must come back with the frame it had.
