@@ -55,6 +55,25 @@ protected:
         return path;
     }
 
+    // A `wine` first on PATH that records its WINEPREFIX, its folder and its arguments, one a line.
+    void InstallRecordingWine() {
+        WriteExecutable("bin/wine",
+                        "#!/bin/sh\nprintf '%s\\n' \"$WINEPREFIX\" \"$PWD\" \"$@\" > \"$0.tmp\"\n"
+                        "mv \"$0.tmp\" \"$0.record\"\n");
+        m_environment.Set("PATH", m_dir.File("bin") + ":/usr/bin:/bin");
+    }
+
+    // What the recording Wine wrote at its last start (waiting up to 5 s for it), and forgets it.
+    std::string TakeWineRecord() {
+        const std::string record = m_dir.File("bin/wine.record");
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+        while (!std::filesystem::exists(record) && std::chrono::steady_clock::now() < deadline)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        const std::string text = m_dir.Read("bin/wine.record");
+        std::filesystem::remove(record);
+        return text;
+    }
+
     TempDir m_dir;
     PosixPlatform m_platform;
     ScopedEnvironment m_environment;

@@ -91,6 +91,24 @@ TEST_F(DesktopEntryTest, AWindowsProgramStartsThroughWine) {
     EXPECT_EQ(platform::ParseDesktopEntry(platform::DesktopEntryText(blank)), blank);
 }
 
+// A game in a Wine prefix of its own starts in it from its entry too, the prefix's path quoted whatever it
+// holds; the entry still names the game.
+TEST_F(DesktopEntryTest, AGameInAWinePrefixStartsInItFromItsEntry) {
+    InstallRecordingWine();
+    const std::string prefix = m_dir.File("a \"b\" 100% $HOME");
+    m_dir.Write("a \"b\" 100% $HOME/system.reg", "");
+    const std::string game = m_dir.Write("a \"b\" 100% $HOME/drive_c/Tarvolin/tarvolin.exe", "MZ");
+    const std::string file = m_dir.File("Game.desktop");
+    ASSERT_TRUE(m_platform.WriteShellLink(file, Link(game, "-log")));
+    const auto [valid, complaints] = RunCommand("desktop-file-validate " + Quoted(file));
+    EXPECT_EQ(valid, 0) << complaints << m_dir.Read("Game.desktop");
+    EXPECT_EQ(m_platform.ReadShellLink(file)->target, game);
+    const auto [status, output] = RunCommand("gio launch " + Quoted(file));
+    ASSERT_EQ(status, 0) << output;
+    EXPECT_EQ(TakeWineRecord(),
+              prefix + "\n" + fs::path(game).parent_path().string() + "\n" + game + "\n-log\n");
+}
+
 // GLib's own launch of the entry gives the stand-in what the launcher's Start gives it.
 TEST_F(DesktopEntryTest, GioStartsTheGameAsTheLauncherDoes) {
     const StandInGame game(m_dir.Path() / "Spiele" / "Tarvolin Größe");

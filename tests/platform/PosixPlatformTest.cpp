@@ -91,6 +91,41 @@ TEST_F(PosixPlatformTest, AWindowsProgramIsStartedThroughWineElseWine64) {
     }
 }
 
+// A game installed in a Wine prefix of its own is found in it, however deep; a "drive_c" without Wine's
+// registry beside it is no prefix.
+TEST_F(PosixPlatformTest, TheWinePrefixIsTheOneThatHoldsTheGame) {
+    for (const char* prefix : {"games/tarvolin", "bottles/a \"b\" 100% $HOME", "outer/drive_c/inner"})
+        m_dir.Write(std::string(prefix) + "/system.reg", "WINE REGISTRY Version 2\n");
+    m_dir.Write("plain/drive_c/keep", "");
+    const std::pair<const char*, const char*> cases[] = {
+        {"games/tarvolin/drive_c/Tarvolin/tarvolin.exe", "games/tarvolin"},
+        {"games/tarvolin/drive_c/Program Files/A/B/C/tarvolin.exe", "games/tarvolin"},
+        {"bottles/a \"b\" 100% $HOME/drive_c/tarvolin.exe", "bottles/a \"b\" 100% $HOME"},
+        {"outer/drive_c/inner/drive_c/tarvolin.exe", "outer/drive_c/inner"},
+        {"plain/drive_c/tarvolin.exe", nullptr},
+        {"games/tarvolin/tarvolin.exe", nullptr},
+        {"tarvolin.exe", nullptr}};
+    for (const auto& [game, prefix] : cases)
+        EXPECT_EQ(platform::WinePrefixOf(m_dir.File(game)), prefix ? m_dir.File(prefix) : "") << game;
+}
+
+// Wine runs in the game's own prefix, whatever the launcher was started with; a game outside any prefix
+// keeps the launcher's.
+TEST_F(PosixPlatformTest, AGameInAPrefixStartsInThatPrefix) {
+    InstallRecordingWine();
+    m_environment.Set("WINEPREFIX", "/home/player/.wine");
+    const std::string prefix = m_dir.File("my games/tarvolin");
+    m_dir.Write("my games/tarvolin/system.reg", "");
+    for (const auto& [name, expected] :
+         {std::pair("my games/tarvolin/drive_c/Tarvolin/tarvolin.exe", prefix),
+          std::pair("outside/tarvolin.exe", std::string("/home/player/.wine"))}) {
+        const std::string game = m_dir.Write(name, "MZ");
+        const std::string folder = game.substr(0, game.rfind('/'));
+        ASSERT_EQ(Open(game, "-log", folder), kShellExecOk);
+        EXPECT_EQ(TakeWineRecord(), expected + "\n" + folder + "\n" + game + "\n-log\n");
+    }
+}
+
 // A name is looked for on PATH, a path taken as it is, in the list's order.
 TEST_F(PosixPlatformTest, WineIsTheFirstCandidateThatExists) {
     const std::string debian = WriteExecutable("lib/wine/wine64", "#!/bin/sh\n");

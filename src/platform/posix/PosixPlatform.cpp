@@ -81,8 +81,8 @@ int32_t StartThroughWine(const std::string& program, const std::string& paramete
     const std::string wine = platform::FindWine(wines);
     if (wine.empty())
         return kSeErrNoAssociation;
-    const std::optional<LaunchFailure> failure =
-        platform::LaunchDetached(wine, ArgumentsFor({wine, program}, parameters), directory);
+    const std::optional<LaunchFailure> failure = platform::LaunchDetached(
+        wine, ArgumentsFor({wine, program}, parameters), directory, platform::WineEnvironmentFor(program));
     return failure ? HelperResult(*failure) : kShellExecOk;
 }
 

@@ -19,10 +19,14 @@ namespace {
 constexpr std::string_view kEnding = ".desktop";
 
 // The program and its arguments as ShellExec would start the target. Without Wine, a Windows program is
-// still written for `wine`, which the desktop finds once Wine is installed.
+// still written for `wine`, which the desktop finds once Wine is installed; one in a Wine prefix of its own
+// is started in that prefix through `env`.
 std::vector<std::string> ExecOf(const ShellLink& link, const std::vector<std::string>& wines) {
     std::vector<std::string> exec;
     if (platform::ProgramKindOf(link.target) == platform::ProgramKind::kWindows) {
+        exec = platform::WineEnvironmentFor(link.target);
+        if (!exec.empty())
+            exec.insert(exec.begin(), "env");
         const std::string wine = platform::FindWine(wines);
         exec.push_back(wine.empty() ? "wine" : wine);
     }
@@ -37,6 +41,14 @@ bool IsWine(const std::string& program, const std::vector<std::string>& wines) {
     const fs::path name = fs::path(program).filename();
     return std::any_of(wines.begin(), wines.end(),
                        [&name](const std::string& wine) { return fs::path(wine).filename() == name; });
+}
+
+// Where the target stands in an entry's command: behind "env WINEPREFIX=…" and Wine when they are there.
+std::size_t ProgramIndex(const std::vector<std::string>& exec, const std::vector<std::string>& wines) {
+    std::size_t at = 0;
+    if (exec.size() > 2 && exec[0] == "env" && exec[1].starts_with("WINEPREFIX="))
+        at = 2;
+    return exec.size() > at + 1 && IsWine(exec[at], wines) ? at + 1 : at;
 }
 
 // Marks the entry as one the user trusts, so that a desktop starts it from the desktop folder without
@@ -72,7 +84,7 @@ std::optional<ShellLink> PosixPlatform::ReadShellLink(const std::string& linkFil
     const std::optional<platform::DesktopEntry> entry = platform::ParseDesktopEntry(content->bytes);
     if (!entry || entry->exec.empty())
         return std::nullopt;
-    const std::size_t program = entry->exec.size() > 1 && IsWine(entry->exec[0], m_wineCandidates) ? 1 : 0;
+    const std::size_t program = ProgramIndex(entry->exec, m_wineCandidates);
     ShellLink link;
     link.target = entry->exec[program];
     link.arguments = JoinWindowsCommandLine(

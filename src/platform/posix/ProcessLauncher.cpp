@@ -29,9 +29,34 @@ constexpr std::chrono::milliseconds kReportTimeout{5000};
 struct ChildView {
     const char* program;
     char* const* argv;
+    char* const* envp;
     const char* directory;
     int reportFd;
 };
+
+// The launcher's environment with `changes` ("NAME=value") replacing or adding their variables.
+std::vector<std::string> MergedEnvironment(const std::vector<std::string>& changes) {
+    std::vector<std::string> merged;
+    for (char** entry = environ; *entry != nullptr; ++entry) {
+        const std::string_view variable(*entry);
+        const std::string_view name = variable.substr(0, variable.find('=') + 1);
+        const bool replaced = std::any_of(changes.begin(), changes.end(), [name](const std::string& change) {
+            return change.starts_with(name);
+        });
+        if (!replaced)
+            merged.emplace_back(variable);
+    }
+    merged.insert(merged.end(), changes.begin(), changes.end());
+    return merged;
+}
+
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    for (std::string& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
 
 [[noreturn]] void ReportAndExit(int fd, LaunchFailure::Step step) {
     const LaunchFailure failure{step, errno};
@@ -61,7 +86,7 @@ void ResetSignals() {
         dup2(input, STDIN_FILENO);
         close(input);
     }
-    execv(child.program, child.argv);
+    execve(child.program, child.argv, child.envp);
     ReportAndExit(child.reportFd, LaunchFailure::Step::kExec);
 }
 
@@ -122,16 +147,16 @@ bool IsExecutableFile(const fs::path& path) {
 }  // namespace
 
 std::optional<LaunchFailure> LaunchDetached(const std::string& program, std::vector<std::string> arguments,
-                                            const std::string& directory) {
-    std::vector<char*> argv;
-    for (std::string& argument : arguments)
-        argv.push_back(argument.data());
-    argv.push_back(nullptr);
+                                            const std::string& directory,
+                                            const std::vector<std::string>& environment) {
+    const std::vector<char*> argv = Pointers(arguments);
+    std::vector<std::string> variables = MergedEnvironment(environment);
+    const std::vector<char*> envp = Pointers(variables);
     int fds[2];
     if (pipe2(fds, O_CLOEXEC) != 0)
         return LaunchFailure{LaunchFailure::Step::kFork, errno};
-    const ChildView child{program.c_str(), argv.data(), directory.empty() ? nullptr : directory.c_str(),
-                          fds[1]};
+    const ChildView child{program.c_str(), argv.data(), envp.data(),
+                          directory.empty() ? nullptr : directory.c_str(), fds[1]};
     const pid_t middle = fork();
     if (middle == 0)
         RunMiddleChild(child);

@@ -18,10 +18,12 @@ struct LaunchFailure {
 };
 
 // Starts `program` (a path, not searched on PATH) with `arguments` as its argv (the first is the name the
-// program sees as its own) in `directory` ("" keeps the current one). Returns once the program runs, or how
-// it failed; the program itself is never waited for.
+// program sees as its own) in `directory` ("" keeps the current one), with the launcher's environment and
+// the "NAME=value" entries of `environment` set over it. Returns once the program runs, or how it failed;
+// the program itself is never waited for.
 std::optional<LaunchFailure> LaunchDetached(const std::string& program, std::vector<std::string> arguments,
-                                            const std::string& directory);
+                                            const std::string& directory,
+                                            const std::vector<std::string>& environment = {});
 
 // The absolute path of the executable `name` in the first folder of $PATH that holds one (an empty entry is
 // the current folder, an unset PATH means /bin:/usr/bin); "" when there is none.

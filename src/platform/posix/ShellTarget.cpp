@@ -115,6 +115,23 @@ ProgramKind ProgramKindOf(const std::string& path) {
     return StartsWith(head, "MZ") ? ProgramKind::kWindows : ProgramKind::kUnknown;
 }
 
+std::string WinePrefixOf(const std::string& program) {
+    for (fs::path folder = fs::path(program).parent_path(); folder.has_relative_path();
+         folder = folder.parent_path()) {
+        std::error_code error;
+        if (folder.filename() == "drive_c" && fs::is_regular_file(folder.parent_path() / "system.reg", error))
+            return folder.parent_path().string();
+    }
+    return {};
+}
+
+std::vector<std::string> WineEnvironmentFor(const std::string& program) {
+    const std::string prefix = WinePrefixOf(program);
+    if (prefix.empty())
+        return {};
+    return {"WINEPREFIX=" + prefix};
+}
+
 // An absolute candidate replaces every folder of PATH, so FindOnPath takes it as it is.
 std::string FindWine(const std::vector<std::string>& candidates) {
     for (const std::string& candidate : candidates) {

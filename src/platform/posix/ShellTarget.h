@@ -47,4 +47,13 @@ inline const std::vector<std::string> kWineCandidates = {"wine", "wine64", "/usr
 // The first of `candidates` that is an executable file; "" when there is none.
 std::string FindWine(const std::vector<std::string>& candidates);
 
+// The Wine prefix that holds `program`: the folder above the nearest "drive_c" on its path, when that folder
+// also holds Wine's registry file "system.reg"; "" outside any prefix. A Windows program installed in a
+// prefix of its own finds its registry entries and runtimes only when Wine runs in that prefix.
+std::string WinePrefixOf(const std::string& program);
+
+// The environment a Windows program is started with: WINEPREFIX set to its prefix when it lies in one
+// (whatever the launcher's own environment says), else nothing changed.
+std::vector<std::string> WineEnvironmentFor(const std::string& program);
+
 }  // namespace platform
