@@ -5,6 +5,7 @@
 
 #include "BenchFolder.h"
 #include "app/PublicObjects.h"
+#include "profiles/ProfileSettings.h"
 #include "storage/cIni_Profile.h"
 #include "translate/cTranslate.h"
 
@@ -27,32 +28,35 @@ BenchFolder& Folder() {
 // One load of a profile, as Profile.LoadData makes it: the file is checked once for its 11 keys.
 void ReadProfile(const cIni_Profile& ini) {
     iniFile::Load load = ini.BeginLoad();
-    benchmark::DoNotOptimize(ini.Read_LogMessages());
-    benchmark::DoNotOptimize(ini.Read_Freeplay());
-    benchmark::DoNotOptimize(ini.Read_UsePreDefinedResolution());
-    benchmark::DoNotOptimize(ini.Read_PreDefinedResolution());
-    benchmark::DoNotOptimize(ini.Read_ResolutionWidth());
-    benchmark::DoNotOptimize(ini.Read_ResolutionHeight());
-    benchmark::DoNotOptimize(ini.Read_ScenarioPath());
-    benchmark::DoNotOptimize(ini.Read_GraphicPakPath());
-    benchmark::DoNotOptimize(ini.Read_Refresh());
-    benchmark::DoNotOptimize(ini.Read_TarvolinPath());
-    benchmark::DoNotOptimize(ini.Read_ProfileDescription());
+    for (const ProfileSettings::Any& setting : ProfileSettings::kAll) {
+        std::visit(
+            [&ini](const auto* declared) {
+                benchmark::DoNotOptimize(ini.Read(declared->key, declared->readTrail));
+            },
+            setting);
+    }
+}
+
+// A value that changes from round to round.
+bool Varied(bool flag, int round) {
+    return (round % 2 == 0) != flag;
+}
+int16_t Varied(int16_t number, int round) {
+    return static_cast<int16_t>(number + round % 5);
+}
+std::string Varied(const char* text, int round) {
+    return text + std::to_string(round);
 }
 
 void WriteProfile(const cIni_Profile& ini, int round) {
     iniFile::Update save = ini.BeginSave();
-    ini.Write_LogMessages(round % 2 == 0);
-    ini.Write_Freeplay(round % 2 == 1);
-    ini.Write_UsePreDefinedResolution(true);
-    ini.Write_PreDefinedResolution(static_cast<int16_t>(1 + round % 5));
-    ini.Write_ResolutionWidth(static_cast<int16_t>(800 + round % 100));
-    ini.Write_ResolutionHeight(600);
-    ini.Write_ScenarioPath("scenarios\\grand tour");
-    ini.Write_GraphicPakPath("pak128.pak");
-    ini.Write_Refresh(static_cast<int16_t>(round % 5));
-    ini.Write_TarvolinPath("/games/Tarvolin/tarvolin.exe");
-    ini.Write_ProfileDescription("Profile written in round " + std::to_string(round));
+    for (const ProfileSettings::Any& setting : ProfileSettings::kAll) {
+        std::visit(
+            [&ini, round](const auto* declared) {
+                ini.Write(declared->key, Varied(declared->newProfile, round), declared->writeTrail);
+            },
+            setting);
+    }
 }
 
 void ReadAllProfiles(cIni_Profile& ini) {

@@ -24,14 +24,6 @@ std::string Profile::InvalidResolutionWarning(int16_t id) {
            kCrLf + kCrLf + "Warning-ID: " + std::to_string(mError::kInvalidResolutionWarning);
 }
 
-template <class T>
-void Profile::Assign(T& field, const T& value) {
-    if (field == value)
-        return;
-    field = value;
-    m_dataChanged = true;
-}
-
 void Profile::SetProfileName(const std::string& value) {
     m_profileName = value;
     m_settings.SetProfileName(value);
@@ -53,50 +45,11 @@ std::string Profile::ProfileCaption() const {
     return m_profileName;
 }
 
-void Profile::SetLogMessages(bool value) {
-    Assign(m_logMessages, value);
-}
-void Profile::SetFreeplay(bool value) {
-    Assign(m_freeplay, value);
-}
-void Profile::SetUsePreDefinedResolution(bool value) {
-    Assign(m_usePreDefinedResolution, value);
-}
-void Profile::SetPreDefinedResolution(int16_t value) {
-    Assign(m_preDefinedResolution, value);
-}
-void Profile::SetResolutionWidth(int16_t value) {
-    Assign(m_resolutionWidth, value);
-}
-void Profile::SetResolutionHeight(int16_t value) {
-    Assign(m_resolutionHeight, value);
-}
-// The texts are kept on one line, whoever hands them in: the settings file holds each on one.
-void Profile::SetScenarioPath(const std::string& value) {
-    Assign(m_scenarioPath, mString::OneLine(value));
-}
-void Profile::SetGraphicPakPath(const std::string& value) {
-    Assign(m_graphicPakPath, mString::OneLine(value));
-}
-void Profile::SetTarvolinPath(const std::string& value) {
-    Assign(m_tarvolinPath, mString::OneLine(value));
-}
-void Profile::SetProfileDescription(const std::string& value) {
-    Assign(m_profileDescription, mString::OneLine(value));
-}
-void Profile::SetRefresh(int16_t value) {
-    Assign(m_refresh, value);
-}
-
 bool Profile::LoadData() try {
     iniFile::Load load = m_settings.BeginLoad();
     m_loaded = false;
-    m_logMessages = m_settings.Read_LogMessages();
-    m_freeplay = m_settings.Read_Freeplay();
-    m_usePreDefinedResolution = m_settings.Read_UsePreDefinedResolution();
-    m_preDefinedResolution = m_settings.Read_PreDefinedResolution();
-    CheckResolution();
-    ReadSettings();
+    for (const ProfileSettings::Any& setting : ProfileSettings::kAll)
+        std::visit([this](const auto* declared) { ReadSetting(*declared); }, setting);
     m_loaded = true;
     m_isNewProfile = false;
     return false;
@@ -107,35 +60,20 @@ bool Profile::LoadData() try {
 // An ID below 1 would select no resolution at all; the replacement counts as a change, so the next save
 // repairs the file.
 void Profile::CheckResolution() {
-    if (m_preDefinedResolution >= 1)
+    if (PreDefinedResolution() >= 1)
         return;
-    Ui().MsgBox(InvalidResolutionWarning(m_preDefinedResolution), vbCritical | vbOKOnly);
+    Ui().MsgBox(InvalidResolutionWarning(PreDefinedResolution()), vbCritical | vbOKOnly);
     SetPreDefinedResolution(1);
-}
-
-void Profile::ReadSettings() {
-    m_resolutionWidth = m_settings.Read_ResolutionWidth();
-    m_resolutionHeight = m_settings.Read_ResolutionHeight();
-    m_scenarioPath = m_settings.Read_ScenarioPath();
-    m_graphicPakPath = m_settings.Read_GraphicPakPath();
-    m_refresh = m_settings.Read_Refresh();
-    m_tarvolinPath = m_settings.Read_TarvolinPath();
-    m_profileDescription = m_settings.Read_ProfileDescription();
 }
 
 void Profile::SaveData() try {
     iniFile::Update save = m_settings.BeginSave();
-    m_settings.Write_LogMessages(m_logMessages);
-    m_settings.Write_Freeplay(m_freeplay);
-    m_settings.Write_UsePreDefinedResolution(m_usePreDefinedResolution);
-    m_settings.Write_PreDefinedResolution(m_preDefinedResolution);
-    m_settings.Write_ResolutionWidth(m_resolutionWidth);
-    m_settings.Write_ResolutionHeight(m_resolutionHeight);
-    m_settings.Write_ScenarioPath(m_scenarioPath);
-    m_settings.Write_GraphicPakPath(m_graphicPakPath);
-    m_settings.Write_Refresh(m_refresh);
-    m_settings.Write_TarvolinPath(m_tarvolinPath);
-    m_settings.Write_ProfileDescription(m_profileDescription);
+    for (const ProfileSettings::Any& setting : ProfileSettings::kAll)
+        std::visit(
+            [this](const auto* declared) {
+                m_settings.Write(declared->key, Get(*declared), declared->writeTrail);
+            },
+            setting);
     // A save that did not reach the file keeps the profile changed, so the user is asked again at the end.
     if (save.Commit() == platform::WriteFault::None)
         m_dataChanged = false;
@@ -147,22 +85,22 @@ void Profile::SaveData() try {
 // "-graphicpack "; the game has always been given its command line that way.
 std::string Profile::GetCmdLineParameters() const try {
     std::string line;
-    if (m_logMessages)
+    if (LogMessages())
         line += " -log ";
-    if (m_usePreDefinedResolution) {
-        line += "-res " + std::to_string(m_preDefinedResolution) + " ";
+    if (UsePreDefinedResolution()) {
+        line += "-res " + std::to_string(PreDefinedResolution()) + " ";
     } else {
-        line += "-screensize " + std::to_string(m_resolutionWidth) + "x" +
-                std::to_string(m_resolutionHeight) + " ";
+        line += "-screensize " + std::to_string(ResolutionWidth()) + "x" +
+                std::to_string(ResolutionHeight()) + " ";
     }
-    if (m_freeplay)
+    if (Freeplay())
         line += "-freeplay ";
-    if (m_refresh > 0)
-        line += "-refresh " + std::to_string(m_refresh) + " ";
-    if (!m_scenarioPath.empty())
-        line += "-scenario " + m_scenarioPath;
-    if (!m_graphicPakPath.empty())
-        line += "-graphicpack " + m_graphicPakPath;
+    if (Refresh() > 0)
+        line += "-refresh " + std::to_string(Refresh()) + " ";
+    if (!ScenarioPath().empty())
+        line += "-scenario " + ScenarioPath();
+    if (!GraphicPakPath().empty())
+        line += "-graphicpack " + GraphicPakPath();
     return mString::Trim(line);
 } catch (...) {
     mError::PassOn("Profile.GetCmdLineParameters");
@@ -172,9 +110,9 @@ void Profile::StartTarvolin(int64_t lngHWND) try {
     if (!ShowStartTarvolinDialog())
         return;
     const std::string parameters = GetCmdLineParameters();
-    const std::string directory = mPath::GetDirectoryPart(m_tarvolinPath);
+    const std::string directory = mPath::GetDirectoryPart(TarvolinPath());
     const int32_t result =
-        Os().ShellExec(lngHWND, "open", m_tarvolinPath, parameters, directory, kSwShowNormal);
+        Os().ShellExec(lngHWND, "open", TarvolinPath(), parameters, directory, kSwShowNormal);
     if (result <= kShellExecSuccessAbove)
         TellWhyTheGameDidNotStart(result);
 } catch (...) {
@@ -188,7 +126,7 @@ void Profile::TellWhyTheGameDidNotStart(int32_t shellResult) const {
         key = "ERR_GameNotFound";
     else if (shellResult == kSeErrNoAssociation)
         key = "ERR_WineMissing";
-    Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", key, m_tarvolinPath), vbExclamation | vbOKOnly);
+    Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", key, TarvolinPath()), vbExclamation | vbOKOnly);
 }
 
 bool Profile::ShowStartTarvolinDialog() try {
@@ -202,19 +140,19 @@ bool Profile::ShowStartTarvolinDialog() try {
 std::string Profile::GetSettingsListAsText() const try {
     const cTranslate& translate = Translator();
     std::string text;
-    text += "Freeplay: " + translate.TranslateBool_YesNo(m_freeplay) + kCrLf;
-    text += "Log messages: " + translate.TranslateBool_YesNo(m_logMessages) + kCrLf;
-    text += "Refresh: " + GetRefreshDescription(m_refresh) + kCrLf;
-    text += m_graphicPakPath.empty() ? std::string("Graphic pak: standard graphic pak")
-                                     : "Graphic pak: " + m_graphicPakPath;
+    text += "Freeplay: " + translate.TranslateBool_YesNo(Freeplay()) + kCrLf;
+    text += "Log messages: " + translate.TranslateBool_YesNo(LogMessages()) + kCrLf;
+    text += "Refresh: " + GetRefreshDescription(Refresh()) + kCrLf;
+    text += GraphicPakPath().empty() ? std::string("Graphic pak: standard graphic pak")
+                                     : "Graphic pak: " + GraphicPakPath();
     text += kCrLf;
-    text += m_scenarioPath.empty() ? std::string("Scenario: none") : "Scenario: " + m_scenarioPath;
+    text += ScenarioPath().empty() ? std::string("Scenario: none") : "Scenario: " + ScenarioPath();
     text += kCrLf;
-    if (m_usePreDefinedResolution) {
-        text += "Resolution: " + GetStandardResolutionDescription(m_preDefinedResolution);
+    if (UsePreDefinedResolution()) {
+        text += "Resolution: " + GetStandardResolutionDescription(PreDefinedResolution());
     } else {
         text +=
-            "Resolution: " + std::to_string(m_resolutionWidth) + " x " + std::to_string(m_resolutionHeight);
+            "Resolution: " + std::to_string(ResolutionWidth()) + " x " + std::to_string(ResolutionHeight());
     }
     return text;
 } catch (...) {

@@ -5,6 +5,10 @@
 #include <cstdint>
 #include <string>
 
+#include <type_traits>
+
+#include "base/mString.h"
+#include "profiles/ProfileSettings.h"
 #include "storage/cIni_Profile.h"
 
 class Profile {
@@ -42,28 +46,42 @@ public:
     bool IsNewProfile() const { return m_isNewProfile; }
     void SetIsNewProfile(bool value) { m_isNewProfile = value; }
 
-    bool LogMessages() const { return m_logMessages; }
-    void SetLogMessages(bool value);
-    bool Freeplay() const { return m_freeplay; }
-    void SetFreeplay(bool value);
-    bool UsePreDefinedResolution() const { return m_usePreDefinedResolution; }
-    void SetUsePreDefinedResolution(bool value);
-    int16_t PreDefinedResolution() const { return m_preDefinedResolution; }
-    void SetPreDefinedResolution(int16_t value);
-    int16_t ResolutionWidth() const { return m_resolutionWidth; }
-    void SetResolutionWidth(int16_t value);
-    int16_t ResolutionHeight() const { return m_resolutionHeight; }
-    void SetResolutionHeight(int16_t value);
-    const std::string& ScenarioPath() const { return m_scenarioPath; }
-    void SetScenarioPath(const std::string& value);
-    const std::string& GraphicPakPath() const { return m_graphicPakPath; }
-    void SetGraphicPakPath(const std::string& value);
-    const std::string& TarvolinPath() const { return m_tarvolinPath; }
-    void SetTarvolinPath(const std::string& value);
-    const std::string& ProfileDescription() const { return m_profileDescription; }
-    void SetProfileDescription(const std::string& value);
-    int16_t Refresh() const { return m_refresh; }
-    void SetRefresh(int16_t value);
+    // A stored setting's value, and its change: only a real change marks the profile changed, and a text
+    // is kept on one line, whoever hands it in (the settings file holds each on one).
+    template <class T>
+    const T& Get(const ProfileSetting<T>& setting) const {
+        return std::get<T>(m_values[setting.index]);
+    }
+    template <class T>
+    void Set(const ProfileSetting<T>& setting, T value) {
+        if constexpr (std::is_same_v<T, std::string>)
+            value = mString::OneLine(value);
+        Assign(std::get<T>(m_values[setting.index]), value);
+    }
+
+    // The property pairs that the windows and the command line use, as views over the settings.
+    bool LogMessages() const { return Get(ProfileSettings::kLogMessages); }
+    void SetLogMessages(bool value) { Set(ProfileSettings::kLogMessages, value); }
+    bool Freeplay() const { return Get(ProfileSettings::kFreeplay); }
+    void SetFreeplay(bool value) { Set(ProfileSettings::kFreeplay, value); }
+    bool UsePreDefinedResolution() const { return Get(ProfileSettings::kUsePreDefinedResolution); }
+    void SetUsePreDefinedResolution(bool value) { Set(ProfileSettings::kUsePreDefinedResolution, value); }
+    int16_t PreDefinedResolution() const { return Get(ProfileSettings::kPreDefinedResolution); }
+    void SetPreDefinedResolution(int16_t value) { Set(ProfileSettings::kPreDefinedResolution, value); }
+    int16_t ResolutionWidth() const { return Get(ProfileSettings::kResolutionWidth); }
+    void SetResolutionWidth(int16_t value) { Set(ProfileSettings::kResolutionWidth, value); }
+    int16_t ResolutionHeight() const { return Get(ProfileSettings::kResolutionHeight); }
+    void SetResolutionHeight(int16_t value) { Set(ProfileSettings::kResolutionHeight, value); }
+    const std::string& ScenarioPath() const { return Get(ProfileSettings::kScenarioPath); }
+    void SetScenarioPath(const std::string& value) { Set(ProfileSettings::kScenarioPath, value); }
+    const std::string& GraphicPakPath() const { return Get(ProfileSettings::kGraphicPakPath); }
+    void SetGraphicPakPath(const std::string& value) { Set(ProfileSettings::kGraphicPakPath, value); }
+    const std::string& TarvolinPath() const { return Get(ProfileSettings::kTarvolinPath); }
+    void SetTarvolinPath(const std::string& value) { Set(ProfileSettings::kTarvolinPath, value); }
+    const std::string& ProfileDescription() const { return Get(ProfileSettings::kProfileDescription); }
+    void SetProfileDescription(const std::string& value) { Set(ProfileSettings::kProfileDescription, value); }
+    int16_t Refresh() const { return Get(ProfileSettings::kRefresh); }
+    void SetRefresh(int16_t value) { Set(ProfileSettings::kRefresh, value); }
 
     // The game's arguments for this profile.
     std::string GetCmdLineParameters() const;
@@ -84,23 +102,24 @@ public:
 
 private:
     template <class T>
-    void Assign(T& field, const T& value);
-    void ReadSettings();
+    void Assign(T& field, const T& value) {
+        if (field == value)
+            return;
+        field = value;
+        m_dataChanged = true;
+    }
+    // Reads one setting; a bad resolution is told before anything after it is read.
+    template <class T>
+    void ReadSetting(const ProfileSetting<T>& setting) {
+        m_values[setting.index].template emplace<T>(m_settings.Read(setting.key, setting.readTrail));
+        if (setting.index == ProfileSettings::kPreDefinedResolution.index)
+            CheckResolution();
+    }
     void CheckResolution();
     void TellWhyTheGameDidNotStart(int32_t shellResult) const;
 
-    bool m_logMessages = true;
-    bool m_freeplay = false;
-    bool m_usePreDefinedResolution = true;
-    int16_t m_preDefinedResolution = 2;
-    int16_t m_resolutionWidth = 640;
-    int16_t m_resolutionHeight = 480;
-    std::string m_scenarioPath;
-    std::string m_graphicPakPath;
-    int16_t m_refresh = 1;
+    ProfileSettings::Values m_values = ProfileSettings::NewProfileValues();
     bool m_loaded = false;
-    std::string m_tarvolinPath;
-    std::string m_profileDescription;
     bool m_dataChanged = false;
     cIni_Profile m_settings;
     std::string m_profileName;

@@ -3,9 +3,9 @@
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
+#include "profiles/Profile.h"
 #include "storage/cIni_Application.h"
 #include "storage/cIni_Options.h"
-#include "storage/cIni_Profile.h"
 #include "storage/cIni_Profiles.h"
 #include "support/AppFixture.h"
 #include "support/FailureMatchers.h"
@@ -14,21 +14,48 @@ namespace {
 
 using CompanionTest = AppFixture;
 
-TEST_F(CompanionTest, FreshProgramFolderGivesTheDefaults) {
-    cIni_Profile profile;
+std::string Other(const std::string& text) {
+    return text + "x";
+}
+int16_t Other(int16_t number) {
+    return static_cast<int16_t>(number + 7);
+}
+bool Other(bool flag) {
+    return !flag;
+}
+
+// A fresh program folder gives the file format's defaults (not a new profile's); every profile setting then
+// comes back as it was saved.
+TEST_F(CompanionTest, FreshProgramFolderGivesTheDefaultsAndEverySettingComesBack) {
+    Profile profile;
     profile.SetProfileName("profile_New");
-    EXPECT_TRUE(profile.Read_LogMessages() && profile.Read_Freeplay() &&
-                profile.Read_UsePreDefinedResolution());
-    EXPECT_EQ((std::vector<int>{profile.Read_PreDefinedResolution(), profile.Read_ResolutionWidth(),
-                                profile.Read_ResolutionHeight(), profile.Read_Refresh()}),
+    profile.LoadData();
+    EXPECT_TRUE(profile.LogMessages() && profile.Freeplay() && profile.UsePreDefinedResolution());
+    EXPECT_EQ((std::vector<int>{profile.PreDefinedResolution(), profile.ResolutionWidth(),
+                                profile.ResolutionHeight(), profile.Refresh()}),
               (std::vector<int>{1, 640, 480, 1}));
-    EXPECT_EQ(profile.Read_ScenarioPath() + profile.Read_GraphicPakPath() + profile.Read_TarvolinPath() +
-                  profile.Read_ProfileDescription(),
+    EXPECT_EQ(profile.ScenarioPath() + profile.GraphicPakPath() + profile.TarvolinPath() +
+                  profile.ProfileDescription(),
               "");
     EXPECT_EQ(cIni_Profiles().Read_ActiveProfileName() + " " + cIni_Application().Read_FileVersion() + " " +
                   cIni_Application().Read_AppVersion(),
               "PROFILE_DEFAULT 1 1");
     EXPECT_FALSE(std::filesystem::exists(g_cApp->IniPath()));
+
+    for (const ProfileSettings::Any& setting : ProfileSettings::kAll)
+        std::visit([&](const auto* declared) { profile.Set(*declared, Other(profile.Get(*declared))); },
+                   setting);
+    profile.SaveData();
+    Profile again;
+    again.SetProfileName("profile_New");
+    again.LoadData();
+    for (const ProfileSettings::Any& setting : ProfileSettings::kAll) {
+        std::visit(
+            [&](const auto* declared) {
+                EXPECT_EQ(again.Get(*declared), profile.Get(*declared)) << declared->key.name;
+            },
+            setting);
+    }
 }
 
 // The program's own settings, with the versions and options saved as one update of the file.
