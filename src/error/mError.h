@@ -64,6 +64,17 @@ auto WithTrail(const char* procedure, Body&& body) -> decltype(body()) {
     }
 }
 
+// Runs `body` as an event entry point: a failure is reported with `procedure` in front of its trail, and the
+// action ends there. Handlers wired in a table carry their procedure names in the table and run through it.
+template <class Body>
+void AsEntryPoint(const char* procedure, Body&& body) noexcept {
+    try {
+        body();
+    } catch (...) {
+        ShowError(procedure);
+    }
+}
+
 // Raises a program-defined failure: number OR 0x80040000, with the given description.
 [[noreturn]] void RaiseError(int32_t number, const std::string& description);
 

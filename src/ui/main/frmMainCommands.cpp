@@ -1,9 +1,11 @@
 // The buttons, the menu commands and closing the window. Every command is an event entry point: it reports
-// its own failure under "frmMain." and its name, and the action ends there.
+// its own failure under "frmMain." and its name (wired with the name in ConnectCommands), and the action
+// ends there.
 #include <QAction>
 #include <QCloseEvent>
 #include <QPushButton>
 #include <iostream>
+#include <tuple>
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
@@ -38,11 +40,9 @@ std::string MainText(const char* key) {
 
 }  // namespace
 
-void frmMain::cmdStart_Click() try {
+void frmMain::cmdStart_Click() {
     RefreshProfileData();
     App().ActiveProfile()->StartTarvolin(Owner(this));
-} catch (...) {
-    mError::ShowError("frmMain.cmdStart_Click");
 }
 
 // Asks for an editor first when none is set; opens the log file in it, unquoted, as it always has.
@@ -60,26 +60,24 @@ void frmMain::OpenLogFile() {
         Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinLogfileNotFound"), vbInformation);
 }
 
-void frmMain::cmdLogfile_Click() try { OpenLogFile(); } catch (...) {
-    mError::ShowError("frmMain.cmdLogfile_Click");
+void frmMain::cmdLogfile_Click() {
+    OpenLogFile();
 }
 
-void frmMain::cmdLogfile2_Click() try { OpenLogFile(); } catch (...) {
-    mError::ShowError("frmMain.cmdLogfile2_Click");
+void frmMain::cmdLogfile2_Click() {
+    OpenLogFile();
 }
 
-void frmMain::cmdOpenTarvoDir_Click() try {
+void frmMain::cmdOpenTarvoDir_Click() {
     const std::string folder = frmMainRules::GameFolder(App().ActiveProfile()->TarvolinPath());
     if (mPath::FolderExists(folder))
         Os().ShellExec(Owner(this), "open", folder, "", "", kSwShowNormal);
     else
         Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_PathNotFound", folder), vbOKOnly);
-} catch (...) {
-    mError::ShowError("frmMain.cmdOpenTarvoDir_Click");
 }
 
 // A new game path refills the lists from its folder.
-void frmMain::cmdSelectTarvoPath_Click() try {
+void frmMain::cmdSelectTarvoPath_Click() {
     // A cancelled chooser hands back what it proposed: nothing new was chosen then.
     const std::string current = QtText::FromQt(txtTarvolinPath->Text());
     const std::string chosen = mMain::AskForTarvoPath(current);
@@ -88,36 +86,30 @@ void frmMain::cmdSelectTarvoPath_Click() try {
     txtTarvolinPath->SetText(QtText::ToQt(chosen));
     RefreshProfileData();
     LoadData(*App().ActiveProfile());
-} catch (...) {
-    mError::ShowError("frmMain.cmdSelectTarvoPath_Click");
 }
 
-void frmMain::mnuFile_Save_Click() try { SaveData(); } catch (...) {
-    mError::ShowError("frmMain.mnuFile_Save_Click");
+void frmMain::mnuFile_Save_Click() {
+    SaveData();
 }
 
-void frmMain::mnuFile_Quit_Click() try { close(); } catch (...) {
-    mError::ShowError("frmMain.mnuFile_Quit_Click");
+void frmMain::mnuFile_Quit_Click() {
+    close();
 }
 
-void frmMain::mnuFile_SendFeedback_Click() try { App().ContactAuthor(Owner(this)); } catch (...) {
-    mError::ShowError("frmMain.mnuFile_SendFeedback_Click");
+void frmMain::mnuFile_SendFeedback_Click() {
+    App().ContactAuthor(Owner(this));
 }
 
-void frmMain::mnuProfile_New_Click() try {
+void frmMain::mnuProfile_New_Click() {
     RefreshProfileData();
     if (Profile* created = App().Profiles().ShowAddNewDialog())
         LoadData(*created);
-} catch (...) {
-    mError::ShowError("frmMain.mnuProfile_New_Click");
 }
 
-void frmMain::mnuProfile_Edit_Click() try {
+void frmMain::mnuProfile_Edit_Click() {
     frmEditProfile dialog(this);
     dialog.InitDialog(2, *App().ActiveProfile());
     dialog.ShowModal();
-} catch (...) {
-    mError::ShowError("frmMain.mnuProfile_Edit_Click");
 }
 
 // The edits of the profile shown so far stay with it before the other one is shown.
@@ -129,51 +121,39 @@ void frmMain::mnuProfile_List_Click(int index) try {
     mError::ShowError("frmMain.mnuProfile_List_Click");
 }
 
-void frmMain::mnuProfil_Manager_Click() try {
+void frmMain::mnuProfil_Manager_Click() {
     frmProfiles dialog(this);
     dialog.InitDialog();
     dialog.ShowModal();
-} catch (...) {
-    mError::ShowError("frmMain.mnuProfil_Manager_Click");
 }
 
-void frmMain::mnuEditCopy_CmdLine_Click() try {
+void frmMain::mnuEditCopy_CmdLine_Click() {
     Ui().SetClipboardText(
         frmMainRules::CleanText(App().ActiveProfile()->TarvolinPath() + GetCmdLineParameters()));
-} catch (...) {
-    mError::ShowError("frmMain.mnuEditCopy_CmdLine_Click");
 }
 
 // The wizard gets the profile with the window's input written into it.
-void frmMain::mnuExtra_CreateShortcut_Click() try {
+void frmMain::mnuExtra_CreateShortcut_Click() {
     RefreshProfileData();
     frmCreateTarvolinShortcut_New dialog(this);
     dialog.InitDialog(*App().ActiveProfile());
     dialog.ShowModal();
-} catch (...) {
-    mError::ShowError("frmMain.mnuExtra_CreateShortcut_Click");
 }
 
-void frmMain::mnuExtra_Update_Click() try {
+void frmMain::mnuExtra_Update_Click() {
     frmUpdate dialog(this);
     dialog.InitDialog();
     dialog.ShowModal();
-} catch (...) {
-    mError::ShowError("frmMain.mnuExtra_Update_Click");
 }
 
-void frmMain::mnuExtra_Options_Click() try {
+void frmMain::mnuExtra_Options_Click() {
     frmOptions dialog(this);
     dialog.InitDialog();
     dialog.ShowModal();
-} catch (...) {
-    mError::ShowError("frmMain.mnuExtra_Options_Click");
 }
 
-void frmMain::mnuExtra_Accessories_LanguageEditor_Click() try {
+void frmMain::mnuExtra_Accessories_LanguageEditor_Click() {
     Os().ShellExec(Owner(this), "open", "LanguageEditor.exe", "", App().GetToolsDirectory(), kSwShowNormal);
-} catch (...) {
-    mError::ShowError("frmMain.mnuExtra_Accessories_LanguageEditor_Click");
 }
 
 // The language changes at once: every caption, both lists, the version line and Qt's own texts.
@@ -187,27 +167,22 @@ void frmMain::mnuOptions_Lang_Item_Click(int index) try {
     mError::ShowError("frmMain.mnuOptions_Lang_Item_Click");
 }
 
-void frmMain::mnuHelp_FAQ_Click() try {
+void frmMain::mnuHelp_FAQ_Click() {
     App().ShowFAQ(Owner(this), App().Options().Language());
-} catch (...) {
-    mError::ShowError("frmMain.mnuHelp_FAQ_Click");
 }
 
-void frmMain::mnuHelp_FAQ_EN_Click() try { App().ShowFAQ(Owner(this), "EN"); } catch (...) {
-    mError::ShowError("frmMain.mnuHelp_FAQ_EN_Click");
+void frmMain::mnuHelp_FAQ_EN_Click() {
+    App().ShowFAQ(Owner(this), "EN");
 }
 
-void frmMain::mnuHelp_Webpage_Click() try { App().ShowPavonelWebpage(Owner(this)); } catch (...) {
-    mError::ShowError("frmMain.mnuHelp_Webpage_Click");
+void frmMain::mnuHelp_Webpage_Click() {
+    App().ShowPavonelWebpage(Owner(this));
 }
 
-// Its report has always carried the name of the profile list's handler.
-void frmMain::mnuHelp_About_Click() try {
+void frmMain::mnuHelp_About_Click() {
     frmInfo dialog(this);
     dialog.InitDialog();
     dialog.ShowModal();
-} catch (...) {
-    mError::ShowError("frmMain.mnuProfil_Manager_Click");
 }
 
 // True when the window may close: after saving, after No, never after Cancel. A save that did not reach the
@@ -278,31 +253,39 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
+// Every command is an event entry point: it reports its failure under the name in its row, once, here.
 void frmMain::ConnectCommands() {
-    const std::pair<QPushButton*, void (frmMain::*)()> buttons[] = {
-        {cmdStart, &frmMain::cmdStart_Click},
-        {cmdLogfile, &frmMain::cmdLogfile_Click},
-        {cmdLogfile2, &frmMain::cmdLogfile2_Click},
-        {cmdOpenTarvoDir, &frmMain::cmdOpenTarvoDir_Click},
-        {cmdSelectTarvoPath, &frmMain::cmdSelectTarvoPath_Click}};
-    for (const auto& [button, handler] : buttons)
-        connect(button, &QPushButton::clicked, this, handler);
-    const std::pair<QAction*, void (frmMain::*)()> actions[] = {
-        {mnuFile_Save, &frmMain::mnuFile_Save_Click},
-        {mnuFile_Quit, &frmMain::mnuFile_Quit_Click},
-        {mnuFile_SendFeedback, &frmMain::mnuFile_SendFeedback_Click},
-        {mnuProfile_New, &frmMain::mnuProfile_New_Click},
-        {mnuProfile_Edit, &frmMain::mnuProfile_Edit_Click},
-        {mnuProfil_Manager, &frmMain::mnuProfil_Manager_Click},
-        {mnuEditCopy_CmdLine, &frmMain::mnuEditCopy_CmdLine_Click},
-        {mnuExtra_CreateShortcut, &frmMain::mnuExtra_CreateShortcut_Click},
-        {mnuExtra_Options, &frmMain::mnuExtra_Options_Click},
-        {mnuExtra_Update, &frmMain::mnuExtra_Update_Click},
-        {mnuExtra_Accessories_LanguageEditor, &frmMain::mnuExtra_Accessories_LanguageEditor_Click},
-        {mnuHelp_FAQ, &frmMain::mnuHelp_FAQ_Click},
-        {mnuHelp_FAQ_EN, &frmMain::mnuHelp_FAQ_EN_Click},
-        {mnuHelp_Webpage, &frmMain::mnuHelp_Webpage_Click},
-        {mnuHelp_About, &frmMain::mnuHelp_About_Click}};
-    for (const auto& [action, handler] : actions)
-        connect(action, &QAction::triggered, this, handler);
+    const std::tuple<QPushButton*, void (frmMain::*)(), const char*> buttons[] = {
+        {cmdStart, &frmMain::cmdStart_Click, "frmMain.cmdStart_Click"},
+        {cmdLogfile, &frmMain::cmdLogfile_Click, "frmMain.cmdLogfile_Click"},
+        {cmdLogfile2, &frmMain::cmdLogfile2_Click, "frmMain.cmdLogfile2_Click"},
+        {cmdOpenTarvoDir, &frmMain::cmdOpenTarvoDir_Click, "frmMain.cmdOpenTarvoDir_Click"},
+        {cmdSelectTarvoPath, &frmMain::cmdSelectTarvoPath_Click, "frmMain.cmdSelectTarvoPath_Click"}};
+    for (const auto& [button, handler, trail] : buttons)
+        connect(button, &QPushButton::clicked, this, EntryPoint(handler, trail));
+    const std::tuple<QAction*, void (frmMain::*)(), const char*> actions[] = {
+        {mnuFile_Save, &frmMain::mnuFile_Save_Click, "frmMain.mnuFile_Save_Click"},
+        {mnuFile_Quit, &frmMain::mnuFile_Quit_Click, "frmMain.mnuFile_Quit_Click"},
+        {mnuFile_SendFeedback, &frmMain::mnuFile_SendFeedback_Click, "frmMain.mnuFile_SendFeedback_Click"},
+        {mnuProfile_New, &frmMain::mnuProfile_New_Click, "frmMain.mnuProfile_New_Click"},
+        {mnuProfile_Edit, &frmMain::mnuProfile_Edit_Click, "frmMain.mnuProfile_Edit_Click"},
+        {mnuProfil_Manager, &frmMain::mnuProfil_Manager_Click, "frmMain.mnuProfil_Manager_Click"},
+        {mnuEditCopy_CmdLine, &frmMain::mnuEditCopy_CmdLine_Click, "frmMain.mnuEditCopy_CmdLine_Click"},
+        {mnuExtra_CreateShortcut, &frmMain::mnuExtra_CreateShortcut_Click,
+         "frmMain.mnuExtra_CreateShortcut_Click"},
+        {mnuExtra_Options, &frmMain::mnuExtra_Options_Click, "frmMain.mnuExtra_Options_Click"},
+        {mnuExtra_Update, &frmMain::mnuExtra_Update_Click, "frmMain.mnuExtra_Update_Click"},
+        {mnuExtra_Accessories_LanguageEditor, &frmMain::mnuExtra_Accessories_LanguageEditor_Click,
+         "frmMain.mnuExtra_Accessories_LanguageEditor_Click"},
+        {mnuHelp_FAQ, &frmMain::mnuHelp_FAQ_Click, "frmMain.mnuHelp_FAQ_Click"},
+        {mnuHelp_FAQ_EN, &frmMain::mnuHelp_FAQ_EN_Click, "frmMain.mnuHelp_FAQ_EN_Click"},
+        {mnuHelp_Webpage, &frmMain::mnuHelp_Webpage_Click, "frmMain.mnuHelp_Webpage_Click"},
+        // Its report has always carried the name of the profile list's handler.
+        {mnuHelp_About, &frmMain::mnuHelp_About_Click, "frmMain.mnuProfil_Manager_Click"}};
+    for (const auto& [action, handler, trail] : actions)
+        connect(action, &QAction::triggered, this, EntryPoint(handler, trail));
+}
+
+std::function<void()> frmMain::EntryPoint(void (frmMain::*handler)(), const char* trail) {
+    return [this, handler, trail] { mError::AsEntryPoint(trail, [this, handler] { (this->*handler)(); }); };
 }
