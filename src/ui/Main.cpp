@@ -52,29 +52,36 @@ frmMain* Main() {
 
 namespace {
 
+// The main window once Main has handed it over, and a request that came while Main was still running.
+struct Ending {
+    QPointer<frmMain> window;
+    bool pending = false;
+};
+
 // Ends the program on a request from outside. A window waiting for an answer is dismissed first, as by
-// Escape; the next one it leads to is dismissed in turn, until the main window itself can end.
-void EndOnRequest(QPointer<frmMain>& window) {
+// Escape; the next one it leads to is dismissed in turn, until the main window itself can end. A request
+// while the window is still being set up (a first start's questions) is kept for when it is.
+void EndOnRequest(Ending& ending) {
     if (QWidget* modal = QApplication::activeModalWidget()) {
         if (auto* dialog = qobject_cast<QDialog*>(modal))
             dialog->reject();
         else
             modal->close();
-        QTimer::singleShot(0, qApp, [&window] { EndOnRequest(window); });
+        QTimer::singleShot(0, qApp, [&ending] { EndOnRequest(ending); });
         return;
     }
-    if (window)
-        window->EndOnRequest();
+    if (ending.window)
+        ending.window->EndOnRequest();
     else
-        QApplication::quit();
+        ending.pending = true;
 }
 
 // A request from outside to end the program ends it without questions, keeping every change.
-void CloseOnRequest(QApplication& application, QPointer<frmMain>& window, int requests) {
+void CloseOnRequest(QApplication& application, Ending& ending, int requests) {
     auto* notifier = new QSocketNotifier(requests, QSocketNotifier::Read, &application);
-    QObject::connect(notifier, &QSocketNotifier::activated, &application, [&window] {
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, [&ending] {
         platform::TakeTerminationRequests();
-        EndOnRequest(window);
+        EndOnRequest(ending);
     });
 }
 
@@ -88,13 +95,15 @@ int RunProgram(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QString::fromLatin1(Version::kAppId));
     QtUserInterface ui;
     InstallUserInterface(&ui);
-    // Listening starts before the start-up, so that a request that arrives once the window exists but
-    // before the event loop runs is answered too.
-    QPointer<frmMain> window;
+    // Listening starts before the start-up, so that a request that arrives once the window exists, while
+    // it still asks its first questions, is answered too.
+    Ending ending;
     if (requests >= 0)
-        CloseOnRequest(application, window, requests);
-    window = Main();
-    const int status = window ? application.exec() : 0;
+        CloseOnRequest(application, ending, requests);
+    ending.window = Main();
+    if (ending.window && ending.pending)
+        QTimer::singleShot(0, ending.window, [&ending] { EndOnRequest(ending); });
+    const int status = ending.window ? application.exec() : 0;
     mMain::ClosePublicObjects();
     InstallUserInterface(nullptr);
     return status;
