@@ -70,7 +70,8 @@ HttpReply::State HttpReply::ReadHead() {
     const std::size_t bare = m_pending.find("\n\n");
     if (bare < end)
         end = bare, separator = 2;
-    if (std::min(end, m_pending.size()) > kMaxHead)
+    // Until the blank line is there, up to three of its bytes may already have arrived.
+    if (end == std::string::npos ? m_pending.size() > kMaxHead + 3 : end > kMaxHead)
         return Fail("the reply's head is longer than " + std::to_string(kMaxHead / 1024) + " KiB");
     if (end == std::string::npos)
         return m_state;
@@ -124,6 +125,15 @@ bool HttpReply::ReadHeader(std::string_view line) {
 }
 
 HttpReply::State HttpReply::StartBody() {
+    // An interim reply (100 Continue, 103 Early Hints) is followed by the real one; a server sends a few.
+    if (m_status < 200) {
+        if (++m_interimReplies > kMaxInterimReplies)
+            return Fail("a malformed reply");
+        m_location.clear();
+        m_framing = Framing::UntilClosed;
+        m_length = 0;
+        return ReadHead();
+    }
     if (m_status != kStatusOk) {
         m_state = State::Done;
         return m_state;

@@ -13,6 +13,7 @@ namespace update {
 class HttpReply {
 public:
     static constexpr std::size_t kMaxHead = 16 * 1024;
+    static constexpr int kMaxInterimReplies = 8;
 
     enum class State { Head, Body, Done, Failed };
 
@@ -53,6 +54,7 @@ private:
     Framing m_framing = Framing::UntilClosed;
     std::size_t m_length = 0;  // the announced length, or what is left of the current chunk
     bool m_inChunk = false;    // between a chunk's size line and its end
+    int m_interimReplies = 0;
     std::string m_body;
     std::string m_error;
 };

@@ -58,7 +58,12 @@ Download::Download(const std::string& address, int32_t /*accessType*/, Limits li
         });
         return;
     }
-    Get(m_address);
+    // Started on the next turn of the event loop, so that even a failure the socket reports at once
+    // reaches a receiver connected after construction.
+    QTimer::singleShot(0, this, [this] {
+        if (!m_over)
+            Get(m_address);
+    });
     m_deadline.start(m_limits.timeout);
 }
 
@@ -131,29 +136,30 @@ void Download::Redirected(const QUrl& target) {
     Get(target);
 }
 
-// Takes what arrived, a bounded piece at a time, until the reply is complete or has failed.
-void Download::Read() {
+// Takes what arrived, a bounded piece at a time, until the reply is complete or has failed. True once it
+// handed the reply on: the outcome may have been told, and the receiver may have deleted this object.
+bool Download::Read() {
     const QPointer<QSslSocket> socket = m_socket;
     while (!m_over && socket == m_socket && m_socket && m_socket->bytesAvailable() > 0) {
         const QByteArray bytes = m_socket->read(kReadSize);
         switch (m_reply->Feed(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())))) {
             case update::HttpReply::State::Failed:
                 Fail(QtText::ToQt(m_reply->Error()));
-                return;
+                return true;
             case update::HttpReply::State::Done:
                 Done();
-                return;
+                return true;
             default:
                 break;
         }
     }
+    return false;
 }
 
 // The server closed the connection: what it sent before still counts.
 void Download::Ended() {
     const QPointer<QSslSocket> socket = m_socket;
-    Read();
-    if (m_over || !socket || socket != m_socket)
+    if (Read() || m_over || !socket || socket != m_socket)
         return;
     if (m_reply->End() == update::HttpReply::State::Done)
         Done();

@@ -56,7 +56,7 @@ private:
     void Get(const QUrl& address);
     void Fail(const QString& detail);
     void Redirected(const QUrl& target);
-    void Read();
+    bool Read();
     void Ended();
     void Done();
     void Close();
