@@ -113,6 +113,8 @@ platform::WriteFault Application::SaveData() try {
 }
 
 platform::WriteFault Application::SaveDataEx(const std::string& strProfiles) try {
+    // A save that fails half-way has not saved what was asked either.
+    m_lastSave = platform::WriteFault::WriteFailed;
     m_lastSave = m_profiles->SaveData(strProfiles);
     return m_lastSave;
 } catch (...) {
@@ -153,8 +155,11 @@ platform::WriteFault Application::SaveAppSettings() try {
     iniFile::Update save = m_settings->BeginSave();
     m_settings->Write_FileVersion(kFileVersion);
     m_settings->Write_AppVersion(AppVersionText());
+    const bool optionsChanged = m_options->DataChanged();
     const platform::WriteFault options = m_options->SaveData();
     const platform::WriteFault fault = save.Commit();
+    if (fault != platform::WriteFault::None)
+        m_options->SetDataChanged(optionsChanged);
     return fault != platform::WriteFault::None ? fault : options;
 } catch (...) {
     mError::PassOn("Application.SaveAppSettings");

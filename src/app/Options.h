@@ -9,6 +9,7 @@
 class Options {
 public:
     bool DataChanged() const { return m_dataChanged; }
+    void SetDataChanged(bool value) { m_dataChanged = value; }
 
     // Reads the three settings straight into the fields: the language keeps the case it is stored in and
     // nothing counts as changed.

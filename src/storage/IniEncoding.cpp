@@ -5,6 +5,8 @@
 #include <iterator>
 #include <optional>
 
+#include "base/mString.h"
+
 namespace {
 
 constexpr std::string_view kUtf8Bom = "\xEF\xBB\xBF";
@@ -117,6 +119,26 @@ std::string Windows1252ToUtf8(std::string_view bytes) {
     return out;
 }
 
+// A file that is not UTF-8 was written in Windows-1252, but an older version of this program wrote the
+// values it changed in UTF-8 into such files: each line is read in the encoding it has, and a file that
+// holds both goes back as UTF-8 with a byte-order mark.
+DecodedIni DecodeWindows1252(std::string_view bytes) {
+    DecodedIni decoded{std::string(), IniEncoding::Windows1252};
+    decoded.text.reserve(bytes.size() + bytes.size() / 8);
+    mString::ForEachLine(bytes, [&decoded](const mString::Line& line) {
+        const bool plain = std::all_of(line.text.begin(), line.text.end(),
+                                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+        if (!plain && IsUtf8(line.text)) {
+            decoded.encoding = IniEncoding::Utf8Bom;
+            decoded.text += line.text;
+        } else {
+            decoded.text += Windows1252ToUtf8(line.text);
+        }
+        decoded.text += line.lineBreak;
+    });
+    return decoded;
+}
+
 // The Windows-1252 bytes of `text`, or nothing when it holds a character that the code page lacks.
 std::optional<std::string> Utf8ToWindows1252(std::string_view text) {
     std::string out;
@@ -161,7 +183,7 @@ DecodedIni DecodeIni(std::string_view bytes) {
     // Text that is not UTF-8 was written by a Windows tool in its "ANSI" code page; UTF-8 (plain ASCII
     // among it) stays what it is.
     if (!IsUtf8(bytes))
-        return {Windows1252ToUtf8(bytes), IniEncoding::Windows1252};
+        return DecodeWindows1252(bytes);
     return {std::string(bytes), IniEncoding::Narrow};
 }
 

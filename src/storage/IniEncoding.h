@@ -6,7 +6,7 @@
 #include <string_view>
 
 enum class IniEncoding {
-    Narrow,       // the system's narrow encoding, no byte-order mark
+    Narrow,       // UTF-8 without a byte-order mark (plain ASCII among it)
     Utf8Bom,      // narrow text behind a UTF-8 byte-order mark, which is kept
     Utf16Le,      // UTF-16 little endian behind its byte-order mark
     Utf16Be,      // UTF-16 big endian behind its byte-order mark

@@ -211,7 +211,7 @@ platform::WriteFault IniStore::CommitUnderLock(const std::string& file, Entry& e
         fault = platform::ReplaceObstacle(file);
     if (fault != platform::WriteFault::None)
         return fault;
-    return Rebase(file, entry) ? Replace(file, entry) : platform::WriteFault::NotAFile;
+    return Rebase(file, entry) ? Replace(file, entry) : platform::WriteFault::WriteFailed;
 }
 
 platform::WriteFault IniStore::Replace(const std::string& file, Entry& entry) {

@@ -174,6 +174,14 @@ TEST_F(IniFileTest, EveryEncodingReadsTheSameAndIsWrittenBackInItsOwn) {
     EXPECT_EQ(dir.Read("test.ini"),
               "\xEF\xBB\xBF[profile_J\xC3\xBCrgen]\r\nTARVOPATH=C:\\J\xC3\xBCrgen\\tarvolin."
               "exe\r\nDESCRIPTION=\xCE\xB1\xCE\xB2\r\n");
+    // A Windows-1252 file into which an older version wrote a value in UTF-8 reads each line right and goes
+    // back as UTF-8 with a byte-order mark.
+    dir.Write("test.ini", "[S]\r\nold=J\xFCrgen\r\nnew=J\xC3\xBCrgen\r\n");
+    iniFile::Store().Clear();
+    EXPECT_EQ(iniFile::Read(file, "S", "old", "", 255) + iniFile::Read(file, "S", "new", "", 255),
+              "J\xC3\xBCrgenJ\xC3\xBCrgen");
+    iniFile::Write(file, "S", "k", "v");
+    EXPECT_EQ(dir.Read("test.ini"), "\xEF\xBB\xBF[S]\r\nold=J\xC3\xBCrgen\r\nnew=J\xC3\xBCrgen\r\nk=v\r\n");
 }
 
 // The parsed copy follows every write.

@@ -137,8 +137,12 @@ std::optional<FileStamp> WriteAndRename(const std::string& target, const std::st
     // file written even if another program replaced it in the meantime.
     struct stat info {};
     ok = ok && fstat(fd, &info) == 0;
-    const int error = errno;
-    ok = close(fd) == 0 && ok;
+    int error = errno;
+    // A file system that delays its errors (NFS, quotas) may report them only here.
+    if (close(fd) != 0) {
+        error = ok ? errno : error;
+        ok = false;
+    }
     if (ok)
         return StampFrom(info);
     unlink(temporary.c_str());

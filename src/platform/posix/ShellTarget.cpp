@@ -120,7 +120,7 @@ std::string WinePrefixOf(const std::string& program) {
          folder = folder.parent_path()) {
         std::error_code error;
         if (folder.filename() == "drive_c" && fs::is_regular_file(folder.parent_path() / "system.reg", error))
-            return folder.parent_path().string();
+            return fs::absolute(folder.parent_path(), error).string();
     }
     return {};
 }

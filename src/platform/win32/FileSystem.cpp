@@ -99,6 +99,7 @@ WriteFault FaultOf(DWORD error) {
             return WriteFault::ReadOnlyFolder;
         case ERROR_SHARING_VIOLATION:
         case ERROR_LOCK_VIOLATION:
+        case ERROR_UNABLE_TO_REMOVE_REPLACED:
             return WriteFault::Locked;
         default:
             return WriteFault::WriteFailed;
@@ -260,7 +261,11 @@ std::optional<FileStamp> ReplaceFile(const std::string& path, const std::string&
             *fault = FaultOf(error);
         return std::nullopt;
     }
-    return StampOf(path);
+    std::optional<FileStamp> stamp = StampOf(path);
+    // Replaced, but not to be told apart from a later edit: the copy must be read again, as after a failure.
+    if (!stamp && fault != nullptr)
+        *fault = WriteFault::WriteFailed;
+    return stamp;
 }
 
 void RemoveLeftovers(const std::string& path) {

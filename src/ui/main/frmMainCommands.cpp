@@ -207,8 +207,13 @@ bool frmMain::Form_QueryUnload() {
     }
 }
 
+// The options are told about only when they were changed: the version stamps written with them are no
+// change of the user's, and a settings file kept read-only on purpose must not raise a message each time.
 void frmMain::Form_Unload() try {
-    TellUnsaved(App().SaveAppSettings());
+    const bool optionsChanged = App().Options().DataChanged();
+    const platform::WriteFault fault = App().SaveAppSettings();
+    if (optionsChanged)
+        TellUnsaved(fault);
     App().Profiles().SaveWhichProfileIsActive();
     mMain::ClosePublicObjects();
 } catch (...) {

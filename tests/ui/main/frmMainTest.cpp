@@ -239,7 +239,7 @@ TEST_F(frmMainTest, ClosingWithNoSavesNoProfile) {
 
 // A save that cannot reach the file says so, naming the file and why, once per attempt: Yes keeps the window
 // open with the profile still changed, so the question comes again; No then closes, telling that the
-// program's own settings were not kept either.
+// changed options were not kept either.
 TEST_F(frmMainTest, ASaveThatCannotReachTheFileSaysSoAndAsksAgain) {
     const std::string before = ReadIni();
     const std::filesystem::path ini = g_cApp->IniPath();
@@ -254,6 +254,7 @@ TEST_F(frmMainTest, ASaveThatCannotReachTheFileSaysSoAndAsksAgain) {
     EXPECT_EQ(boxes, asked);
     EXPECT_TRUE(Active().DataChanged());
     boxes.clear();
+    g_cApp->Options().SetEditorPath("/usr/bin/gedit");
     EXPECT_TRUE(Close({QMessageBox::No}));
     EXPECT_EQ(boxes, asked);
     std::filesystem::permissions(ini, std::filesystem::perms::owner_all);
