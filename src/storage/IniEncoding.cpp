@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 #include <optional>
 
@@ -95,7 +96,17 @@ char32_t NextUtf8(std::string_view text, std::size_t& i) {
 }
 
 bool IsUtf8(std::string_view text) {
+    constexpr uint64_t kHighBits = 0x8080808080808080;
     for (std::size_t i = 0; i < text.size();) {
+        // Plain ASCII, nearly all of any settings file, is passed over eight bytes at a time.
+        uint64_t word = 0;
+        if (i + sizeof word <= text.size()) {
+            std::memcpy(&word, text.data() + i, sizeof word);
+            if ((word & kHighBits) == 0) {
+                i += sizeof word;
+                continue;
+            }
+        }
         if (!DecodeUtf8(text, i))
             return false;
     }
