@@ -155,12 +155,14 @@ platform::WriteFault Application::SaveAppSettings() try {
     iniFile::Update save = m_settings->BeginSave();
     m_settings->Write_FileVersion(kFileVersion);
     m_settings->Write_AppVersion(AppVersionText());
+    // The options' own update lies inside this one, which alone reaches the file: when it does not, they
+    // stay as changed as they were.
     const bool optionsChanged = m_options->DataChanged();
-    const platform::WriteFault options = m_options->SaveData();
+    m_options->SaveData();
     const platform::WriteFault fault = save.Commit();
     if (fault != platform::WriteFault::None)
         m_options->SetDataChanged(optionsChanged);
-    return fault != platform::WriteFault::None ? fault : options;
+    return fault;
 } catch (...) {
     mError::PassOn("Application.SaveAppSettings");
 }

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <string>
-
 #include <type_traits>
 
 #include "base/mString.h"
