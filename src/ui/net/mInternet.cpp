@@ -25,16 +25,10 @@ bool IsHttps(const QUrl& url) {
 // The request for a file that must come from the server itself, never from a cache on the way. The
 // connection ends with the reply, so a reply without a length ends where the server closes it.
 QByteArray RequestFor(const QUrl& address) {
-    QByteArray host = address.host(QUrl::FullyEncoded).toLatin1();
-    if (host.contains(':'))
-        host = '[' + host + ']';
-    if (address.port(-1) != -1)
-        host += ':' + QByteArray::number(address.port());
-    QByteArray path = address.path(QUrl::FullyEncoded).toLatin1();
-    if (path.isEmpty())
-        path = "/";
-    if (address.hasQuery())
-        path += '?' + address.query(QUrl::FullyEncoded).toLatin1();
+    const QByteArray host = address.adjusted(QUrl::RemoveUserInfo).authority(QUrl::FullyEncoded).toLatin1();
+    QByteArray path = address.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
+    if (path.isEmpty() || path.startsWith('?'))
+        path.prepend('/');
     return "GET " + path + " HTTP/1.1\r\nHost: " + host + "\r\nUser-Agent: " + kAgent +
            "\r\nAccept: */*\r\nCache-Control: no-cache\r\nPragma: no-cache\r\nConnection: close\r\n\r\n";
 }
