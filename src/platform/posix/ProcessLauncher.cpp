@@ -150,12 +150,14 @@ std::optional<LaunchFailure> LaunchDetached(const std::string& program, std::vec
                                             const std::string& directory,
                                             const std::vector<std::string>& environment) {
     const std::vector<char*> argv = Pointers(arguments);
-    std::vector<std::string> variables = MergedEnvironment(environment);
+    // Only a start that changes the environment needs a copy of it.
+    std::vector<std::string> variables =
+        environment.empty() ? std::vector<std::string>() : MergedEnvironment(environment);
     const std::vector<char*> envp = Pointers(variables);
     int fds[2];
     if (pipe2(fds, O_CLOEXEC) != 0)
         return LaunchFailure{LaunchFailure::Step::kFork, errno};
-    const ChildView child{program.c_str(), argv.data(), envp.data(),
+    const ChildView child{program.c_str(), argv.data(), environment.empty() ? environ : envp.data(),
                           directory.empty() ? nullptr : directory.c_str(), fds[1]};
     const pid_t middle = fork();
     if (middle == 0)
