@@ -65,13 +65,16 @@ auto WithTrail(const char* procedure, Body&& body) -> decltype(body()) {
 }
 
 // Runs `body` as an event entry point: a failure is reported with `procedure` in front of its trail, and the
-// action ends there. Handlers wired in a table carry their procedure names in the table and run through it.
+// action ends there; true when `body` ran to its end. Handlers wired in a table carry their procedure names
+// in the table and run through it.
 template <class Body>
-void AsEntryPoint(const char* procedure, Body&& body) noexcept {
+bool AsEntryPoint(const std::string& procedure, Body&& body) noexcept {
     try {
         body();
+        return true;
     } catch (...) {
         ShowError(procedure);
+        return false;
     }
 }
 

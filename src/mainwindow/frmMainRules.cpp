@@ -38,13 +38,13 @@ std::string GetCmdLineParameters(const MainWindowValues& values) try {
     if (values.logMessages == MainWindowValues::kChecked)
         text += " -log ";
     if (values.standardResolution)
-        text += "-res " + std::to_string(values.resolutionIndex + 1) + " ";
+        text += "-res " + std::to_string(values.resolution) + " ";
     else
         text += "-screensize " + values.width + "x" + values.height + " ";
     if (values.freeplay == MainWindowValues::kChecked)
         text += "-freeplay ";
-    if (values.refreshIndex + 1 > 0)
-        text += "-refresh " + std::to_string(values.refreshIndex + 1) + " ";
+    if (values.refresh > 0)
+        text += "-refresh " + std::to_string(values.refresh) + " ";
     if (!values.scenario.empty())
         text += "-scenario " + values.scenario;
     if (!values.graphicPack.empty())
@@ -92,12 +92,12 @@ bool IsResolutionKey(int keyAscii) {
     return (keyAscii >= '0' && keyAscii <= '9') || keyAscii == 8;
 }
 
-std::optional<PreviewResolution> PreviewFor(int resolutionIndex) {
+std::optional<PreviewResolution> PreviewFor(int resolution) {
     static constexpr std::array<PreviewResolution, 5> kEntries = {
         {{640, 480, false}, {800, 600, false}, {1024, 768, false}, {1280, 1024, false}, {0, 0, true}}};
-    if (resolutionIndex < 0 || resolutionIndex >= static_cast<int>(kEntries.size()))
+    if (resolution < 1 || resolution > static_cast<int>(kEntries.size()))
         return std::nullopt;
-    return kEntries[static_cast<std::size_t>(resolutionIndex)];
+    return kEntries[static_cast<std::size_t>(resolution - 1)];
 }
 
 std::string GameFolder(const std::string& tarvolinPath) {

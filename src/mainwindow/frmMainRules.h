@@ -42,13 +42,13 @@ ResolutionCorrection CorrectInput(const MainWindowValues& values);
 // True for the keys a resolution field takes: the digits and backspace.
 bool IsResolutionKey(int keyAscii);
 
-// What the preview shows for an entry of the standard resolutions; nothing for no entry.
+// What the preview shows for a standard resolution's ID; nothing for no standard resolution.
 struct PreviewResolution {
     int16_t width;
     int16_t height;
     bool fillArea;  // the last entry: the game's own window
 };
-std::optional<PreviewResolution> PreviewFor(int resolutionIndex);
+std::optional<PreviewResolution> PreviewFor(int resolution);
 
 // The folder of the game's program file with a trailing separator ("" for a path without one).
 std::string GameFolder(const std::string& tarvolinPath);

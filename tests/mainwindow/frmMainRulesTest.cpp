@@ -103,11 +103,11 @@ TEST(frmMainCorrectInput, RaisesSmallNumbersToTheMinimum) {
 TEST(frmMainRulesTest, SmallRules) {
     EXPECT_TRUE(frmMainRules::IsResolutionKey('5') && frmMainRules::IsResolutionKey(8));
     EXPECT_FALSE(frmMainRules::IsResolutionKey('a') || frmMainRules::IsResolutionKey('-'));
-    EXPECT_FALSE(frmMainRules::PreviewFor(-1) || frmMainRules::PreviewFor(5));
-    const auto window = frmMainRules::PreviewFor(4);
+    EXPECT_FALSE(frmMainRules::PreviewFor(0) || frmMainRules::PreviewFor(6));
+    const auto window = frmMainRules::PreviewFor(5);
     ASSERT_TRUE(window);
     EXPECT_TRUE(window->width == 0 && window->height == 0 && window->fillArea);
-    EXPECT_EQ(frmMainRules::PreviewFor(2)->width, 1024);
+    EXPECT_EQ(frmMainRules::PreviewFor(3)->width, 1024);
     EXPECT_EQ(frmMainRules::LogFilePath(Native("/games/t d/tarvolin.exe")), Native("/games/t d/tarvo.log"));
     EXPECT_EQ(frmMainRules::LogFilePath("tarvolin.exe"), "tarvo.log");
     EXPECT_EQ(frmMainRules::CleanText("  /g/tarvolin.exe\r\n-log \t -res 2 \x7F"),

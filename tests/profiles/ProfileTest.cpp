@@ -27,22 +27,8 @@ protected:
     Profile profile;
 };
 
-// What LoadData puts into the controls for `profile`.
-MainWindowValues ShownAs(const Profile& profile) {
-    return {profile.TarvolinPath(),
-            profile.LogMessages() ? 1 : 0,
-            profile.Freeplay() ? 1 : 0,
-            profile.UsePreDefinedResolution(),
-            profile.PreDefinedResolution() - 1,
-            std::to_string(profile.ResolutionWidth()),
-            std::to_string(profile.ResolutionHeight()),
-            profile.ScenarioPath(),
-            profile.GraphicPakPath(),
-            profile.Refresh() - 1};
-}
-
 // A profile's settings (the defaults of a new one where a case gives none) and its command line, which
-// the main window composes alike from its controls.
+// the main window composes alike from what it shows and gives back alike when it writes that back.
 struct CommandLineCase {
     bool log = true, standard = true, freeplay = false;
     int16_t resolution = 2, width = 640, height = 480, refresh = 1;
@@ -84,7 +70,10 @@ TEST_F(ProfileTest, CommandLineHasTheGamesArgumentsInItsOrder) {
         p.SetScenarioPath(c.scenario);
         p.SetGraphicPakPath(c.pak);
         EXPECT_EQ(p.GetCmdLineParameters(), c.expected);
-        EXPECT_EQ(frmMainRules::GetCmdLineParameters(ShownAs(p)), c.expected);
+        EXPECT_EQ(frmMainRules::GetCmdLineParameters(frmMainRules::ValuesOf(p)), c.expected);
+        Profile written;  // what the window writes back of what it showed
+        frmMainRules::WriteInto(frmMainRules::ValuesOf(p), written);
+        EXPECT_EQ(written.GetCmdLineParameters(), c.expected);
     }
     EXPECT_EQ(Profile().GetCmdLineParameters(), "-log -res 2 -refresh 1") << "a new profile";
 }

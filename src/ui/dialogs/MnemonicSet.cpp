@@ -25,6 +25,7 @@ QString MnemonicSet::Add(const QString& text) {
     const qsizetype existing = ExistingMnemonic(text);
     if (existing >= 0) {
         m_taken += text[existing].toLower();
+        m_marked.insert(text, text);
         return text;
     }
     const qsizetype letter = FreeLetter(text);
@@ -42,5 +43,11 @@ QString MnemonicSet::Add(const QString& text) {
         if (i + 1 < text.size() && text[i + 1] == u'&')
             ++i;
     }
+    m_marked.insert(text, marked);
     return marked;
+}
+
+QString MnemonicSet::Again(const QString& text) {
+    const auto marked = m_marked.constFind(text);
+    return marked != m_marked.cend() ? *marked : Add(text);
 }

@@ -2,6 +2,7 @@
 // window hands its texts through one set that gives every text its own Alt+letter.
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 class MnemonicSet {
@@ -11,10 +12,14 @@ public:
     // language files do) keeps it and claims its letter. Otherwise "&&" stays the literal ampersand it is
     // in a caption, and a lone "&" becomes one. A text with no free letter comes back without a mnemonic.
     QString Add(const QString& text);
+    // `text` as Add marked it before, for a button that repeats another's command on another page; a text
+    // not added yet is added now.
+    QString Again(const QString& text);
 
 private:
     static qsizetype ExistingMnemonic(const QString& text);
     qsizetype FreeLetter(const QString& text) const;
 
     QString m_taken;
+    QHash<QString, QString> m_marked;  // each text added, as Add marked it
 };

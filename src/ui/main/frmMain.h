@@ -1,10 +1,11 @@
 // The main window: the active profile on five pages behind a row of tabs, the start button, the version
-// line and the menus. It holds no settings of its own: LoadData shows a profile in the controls and
-// RefreshProfileData writes the controls back at the moments that need it (save, start, switch, close).
-// Its rules that need no widget live in mainwindow/ (frmMainRules, frmMainLists); this class gathers its
-// controls' values and applies the results. The code is split by concern:
-//   frmMain.cpp          building the pages and placing them inside the tab area
-//   frmMainBinding.cpp   LoadData, RefreshProfileData, the lists and the resolution fields
+// line and the menus. It holds no settings of its own: LoadData shows a profile on the pages and
+// RefreshProfileData writes what they show back at the moments that need it (save, start, switch, close).
+// Each page is a class of its own (GamePage, ScenarioPage, DisplayPage, RefreshPage, ExtraPage) that shows
+// and hands back its values; the rules that need no widget live in mainwindow/. The window's code is split
+// by concern:
+//   frmMain.cpp          the tabs and the pages inside the tab area, the start row
+//   frmMainBinding.cpp   LoadData, RefreshProfileData and the command line under the pages
 //   frmMainCommands.cpp  the buttons, the menu commands and closing
 //   frmMainMenus.cpp     building the menus, the profile and language menus
 //   frmMainTexts.cpp     every caption and the version line
@@ -19,20 +20,18 @@
 #include "mainwindow/MainWindowValues.h"
 #include "platform/FileSystem.h"
 
+class DisplayPage;
+class ExtraPage;
+class GamePage;
+class MainPage;
 class Profile;
 class QAction;
-class QCheckBox;
-class QComboBox;
-class QGroupBox;
-class QKeyEvent;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QMenu;
 class QPushButton;
-class QRadioButton;
-class ucPath;
-class ucResolutionPreview;
+class RefreshPage;
+class ScenarioPage;
 class ucTab;
 class ucTabArea;
 
@@ -41,8 +40,6 @@ class frmMain : public QMainWindow {
 
 public:
     static constexpr int kTabCount = 5;
-    // The entries of the standard resolutions and of the refresh rates.
-    static constexpr int kListEntries = 5;
 
     explicit frmMain(QWidget* parent = nullptr);
 
@@ -78,31 +75,16 @@ protected:
 private:
     // Building (frmMain.cpp).
     QWidget* CreateTabbedPages();
-    QWidget* CreateGamePage();
-    QWidget* CreateScenarioPage();
-    QWidget* CreateDisplayPage();
-    QWidget* CreateRefreshPage();
-    QWidget* CreateExtraPage();
     QWidget* CreateStartRow();
-    QWidget* NewPage(int index);
     void PlaceTabs();
     void ActivatePage(int page);
-    void Form_Load();
 
     // Binding (frmMainBinding.cpp).
     MainWindowValues Values() const;
-    void ShowValues(const Profile& profile);
     void CheckData();
-    void CorrectInput();
     void TellCorrection(const char* key, QWidget* focus);
-    void FillScenarioFilesList();
-    void FillDatenPakList();
-    void lstResolution_Click();
-    void ShowPreview();
     void ControlChanged(const char* procedure);
-    bool ResolutionField_KeyPress(const QKeyEvent& event);
     void ShowCommandLine();
-    void ConnectBinding();
 
     // Commands (frmMainCommands.cpp).
     void cmdStart_Click();
@@ -153,48 +135,17 @@ private:
 
     std::array<ucTab*, kTabCount> ucTab1{};
     ucTabArea* Shape1 = nullptr;
-    std::array<QWidget*, kTabCount + 1> picPage{};  // pages 1 to 5; index 0 unused
     QWidget* tabHost = nullptr;
-
-    QLabel* lblTarvoPath = nullptr;
-    ucPath* txtTarvolinPath = nullptr;
-    QPushButton* cmdSelectTarvoPath = nullptr;
-    QCheckBox* ckFreeplay = nullptr;
-    QLabel* lblFreeplayMode_Desc = nullptr;
-    QCheckBox* ckLogMessages = nullptr;
-    QLabel* lblLogMsg = nullptr;
-    QPushButton* cmdLogfile2 = nullptr;
-
-    QLabel* lblScenarios = nullptr;
-    QComboBox* txtScenario = nullptr;
-    QLabel* lblScenarioInfo = nullptr;
-    QLabel* lblGraphicPak = nullptr;
-    QComboBox* txtGraphicPack = nullptr;
-    QLabel* lblGraphicPakInfo = nullptr;
-
-    QGroupBox* frmResolution = nullptr;
-    std::array<QRadioButton*, 2> opResolution{};
-    QListWidget* lstResolution = nullptr;
-    QLineEdit* txtRes_Width = nullptr;
-    QLineEdit* txtRes_Height = nullptr;
-    QLabel* lblwidth_heigth = nullptr;
-    ucResolutionPreview* UserControl11 = nullptr;
-    QLabel* lblResolution_Warning = nullptr;
-
-    QGroupBox* frmScreenRefresh = nullptr;
-    QListWidget* lstRefresh = nullptr;
-
-    QGroupBox* frmOpenTarvoFolder = nullptr;
-    QPushButton* cmdOpenTarvoDir = nullptr;
-    QLabel* lblOpenTarvoFolder = nullptr;
-    QGroupBox* frmOpenLogfile = nullptr;
-    QPushButton* cmdLogfile = nullptr;
-    QLabel* lblOpenLogfileDesc = nullptr;
+    GamePage* m_game = nullptr;
+    ScenarioPage* m_scenario = nullptr;
+    DisplayPage* m_display = nullptr;
+    RefreshPage* m_refresh = nullptr;
+    ExtraPage* m_extra = nullptr;
+    std::array<MainPage*, kTabCount + 1> picPage{};  // pages 1 to 5; index 0 unused
 
     QLabel* lblVersion = nullptr;
     QLineEdit* txtCommandLine = nullptr;
     QPushButton* cmdStart = nullptr;
-    QLabel* Image1 = nullptr;
 
     QMenu* mnuFile = nullptr;
     QAction* mnuFile_Save = nullptr;
@@ -222,7 +173,6 @@ private:
     QAction* mnuFile_SendFeedback = nullptr;
     QAction* mnuHelp_About = nullptr;
 
-    bool m_loading = false;           // LoadData is filling the controls
     bool m_profileListShown = false;  // the profile menu's items show the profiles as they are
     bool m_ending = false;            // EndOnRequest is ending the program: no questions, no messages
 };

@@ -19,12 +19,13 @@
 #include "translate/cTranslate.h"
 #include "ui/QtText.h"
 #include "ui/QtTranslation.h"
-#include "ui/controls/ucPath.h"
 #include "ui/dialogs/frmEditProfile.h"
 #include "ui/dialogs/frmInfo.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/frmProfiles.h"
 #include "ui/dialogs/frmUpdate.h"
+#include "ui/main/ExtraPage.h"
+#include "ui/main/GamePage.h"
 #include "ui/main/frmMain.h"
 #include "ui/shortcuts/frmCreateTarvolinShortcut_New.h"
 
@@ -79,11 +80,11 @@ void frmMain::cmdOpenTarvoDir_Click() {
 // A new game path refills the lists from its folder.
 void frmMain::cmdSelectTarvoPath_Click() {
     // A cancelled chooser hands back what it proposed: nothing new was chosen then.
-    const std::string current = QtText::FromQt(txtTarvolinPath->Text());
+    const std::string current = Values().tarvolinPath;
     const std::string chosen = mMain::AskForTarvoPath(current);
     if (chosen == current || !mPath::FileExists(chosen))
         return;
-    txtTarvolinPath->SetText(QtText::ToQt(chosen));
+    m_game->ShowTarvolinPath(chosen);
     RefreshProfileData();
     LoadData(*App().ActiveProfile());
 }
@@ -262,10 +263,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
 void frmMain::ConnectCommands() {
     const std::tuple<QPushButton*, void (frmMain::*)(), const char*> buttons[] = {
         {cmdStart, &frmMain::cmdStart_Click, "frmMain.cmdStart_Click"},
-        {cmdLogfile, &frmMain::cmdLogfile_Click, "frmMain.cmdLogfile_Click"},
-        {cmdLogfile2, &frmMain::cmdLogfile2_Click, "frmMain.cmdLogfile2_Click"},
-        {cmdOpenTarvoDir, &frmMain::cmdOpenTarvoDir_Click, "frmMain.cmdOpenTarvoDir_Click"},
-        {cmdSelectTarvoPath, &frmMain::cmdSelectTarvoPath_Click, "frmMain.cmdSelectTarvoPath_Click"}};
+        {m_extra->LogFileButton(), &frmMain::cmdLogfile_Click, "frmMain.cmdLogfile_Click"},
+        {m_game->LogFileButton(), &frmMain::cmdLogfile2_Click, "frmMain.cmdLogfile2_Click"},
+        {m_extra->OpenFolderButton(), &frmMain::cmdOpenTarvoDir_Click, "frmMain.cmdOpenTarvoDir_Click"},
+        {m_game->BrowseButton(), &frmMain::cmdSelectTarvoPath_Click, "frmMain.cmdSelectTarvoPath_Click"}};
     for (const auto& [button, handler, trail] : buttons)
         connect(button, &QPushButton::clicked, this, EntryPoint(handler, trail));
     const std::tuple<QAction*, void (frmMain::*)(), const char*> actions[] = {

@@ -1,7 +1,6 @@
 // The menu bar, and the menus built while the program runs: one item per profile, one per language file,
 // the accessories and the FAQ entries. Built items are hidden when they are not needed, never removed.
 #include <QAction>
-#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -151,10 +150,6 @@ void frmMain::HideFAQMenu() try {
 }
 
 void frmMain::InitDialog() try {
-    for (QListWidget* list : {lstResolution, lstRefresh}) {
-        for (int i = 0; i < kListEntries; ++i)
-            list->addItem(QString());
-    }
     InitLanguageList();
     TranslateDialog();
     FillProfileList();

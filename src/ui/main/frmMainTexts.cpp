@@ -1,14 +1,10 @@
 // Every caption of the main window from the language files, with keyboard access for each, and the
 // version line.
 #include <QAction>
-#include <QCheckBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
-#include <QRadioButton>
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
@@ -20,16 +16,13 @@
 #include "ui/QtText.h"
 #include "ui/controls/ucTab.h"
 #include "ui/dialogs/MnemonicSet.h"
+#include "ui/main/MainPage.h"
 #include "ui/main/frmMain.h"
 
 namespace {
 
 QString MainText(const char* key) {
-    return QtText::ToQt(Translator().TranslateEx("MAIN_DIALOG", key));
-}
-
-QString ListEntry(const char* prefix, int index) {
-    return QtText::ToQt(Translator().TranslateEx("MAIN_DIALOG", prefix + std::to_string(index + 1)));
+    return MainPage::Text(key);
 }
 
 }  // namespace
@@ -37,10 +30,6 @@ QString ListEntry(const char* prefix, int index) {
 void frmMain::TranslateDialog() try {
     TranslatePages();
     TranslateMenus();
-    for (int i = 0; i < kListEntries; ++i) {
-        lstResolution->item(i)->setText(ListEntry("LST_RESOLUTION_", i));
-        lstRefresh->item(i)->setText(ListEntry("LST_REFRESH_", i));
-    }
     UpdateVersionLabels();
     HideFAQMenu();
     PlaceTabs();
@@ -48,7 +37,7 @@ void frmMain::TranslateDialog() try {
     mError::PassOn("frmMain.TranslateDialog");
 }
 
-// The captions of all pages share the keys of the whole window: every label and button gets its own letter.
+// The pages share the keys of the whole window: every label and button gets its own letter.
 void frmMain::TranslatePages() {
     static constexpr const char* kTabs[kTabCount] = {"TAB_GAMESETTINGS", "TAB_SCENARIO", "TAB_DISPLAY",
                                                      "TAB_REFRESH", "TAB_EXTRA"};
@@ -59,35 +48,10 @@ void frmMain::TranslatePages() {
     for (const char* menu : {"MNU_FILE", "MNU_PROFILES", "MNU_EDIT", "MNU_EXTRA", "MNU_HELP"})
         keys.Add(MainText(menu));
     cmdStart->setText(keys.Add(MainText("BTN_START_TARVOLIN")));
-    lblTarvoPath->setText(keys.Add(MainText("LBL_TARVOPATH")));
-    cmdSelectTarvoPath->setText(keys.Add(QtText::ToQt(Translator().TranslateEx("GLOBAL", "BTN_Browse"))));
-    ckLogMessages->setText(keys.Add(MainText("CHK_LOG")));
-    ckFreeplay->setText(keys.Add(MainText("CHK_FREEPLAY")));
-    cmdLogfile->setText(keys.Add(MainText("BTN_DISPLAY_LOGFILE")));
-    cmdLogfile2->setText(cmdLogfile->text());
-    lblScenarios->setText(keys.Add(MainText("LBL_SCENARIO_LIST")));
-    lblGraphicPak->setText(keys.Add(MainText("LBL_GRAPHICPAK_LIST")));
-    opResolution[0]->setText(keys.Add(MainText("OP_STANDARD_RESOLUTION")));
-    opResolution[1]->setText(keys.Add(MainText("OP_USERDEFINED_RESOLUTION")));
-    lblwidth_heigth->setText(keys.Add(MainText("LBL_RESOLUTION_WIDTH_HEIGTH")));
-    frmScreenRefresh->setTitle(keys.Add(MainText("LBL_SCREEN_REFRESH")));
-    cmdOpenTarvoDir->setText(keys.Add(MainText("BTN_OPEN_TARVOFOLDER")));
-    // Fields without a label of their own are named for screen readers.
-    txtRes_Height->setAccessibleName(MainText("LBL_RESOLUTION_WIDTH_HEIGTH"));
-    lstResolution->setAccessibleName(MainText("OP_STANDARD_RESOLUTION"));
-    lstRefresh->setAccessibleName(MainText("LBL_SCREEN_REFRESH"));
+    for (int i = 1; i <= kTabCount; ++i)
+        picPage[i]->Retranslate(keys);
     txtCommandLine->setAccessibleName(MainText("LBL_COMMANDLINE"));
     txtCommandLine->setToolTip(MainText("LBL_COMMANDLINE"));
-    lblLogMsg->setText(MainText("LBL_LOG_DESC"));
-    lblFreeplayMode_Desc->setText(MainText("LBL_FREEPLAY_DESC"));
-    lblScenarioInfo->setText(MainText("LBL_SCENARIO_LIST_INFO"));
-    lblGraphicPakInfo->setText(MainText("LBL_GRAPHICPAK_LIST_INFO"));
-    frmResolution->setTitle(MainText("LBL_RESOLUTION_FRAME"));
-    lblResolution_Warning->setText(MainText("LBL_RESOLUTION_WARNING"));
-    frmOpenLogfile->setTitle(MainText("LBL_LOGFILE_FRAME"));
-    frmOpenTarvoFolder->setTitle(MainText("LBL_TARVOFOLDER_FRAME"));
-    lblOpenLogfileDesc->setText(MainText("LBL_LOGFILE_FRAME_TEXT"));
-    lblOpenTarvoFolder->setText(MainText("LBL_TARVOFOLDER_FRAME_TEXT"));
 }
 
 // The menu texts of the language files carry their own "&" letters.

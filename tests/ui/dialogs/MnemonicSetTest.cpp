@@ -8,7 +8,7 @@ namespace {
 
 struct MnemonicCase {
     const char* name;
-    const char* texts;     // the texts of one window, in order, separated by "|"
+    const char* texts;     // the texts of one window, in order, separated by "|"; "=" asks for one again
     const char* expected;  // what they become, likewise
 };
 
@@ -18,7 +18,7 @@ TEST_P(MnemonicSetTest, GivesEachTextItsOwnKey) {
     MnemonicSet keys;
     QStringList marked;
     for (const QString& text : QString::fromUtf8(GetParam().texts).split(u'|'))
-        marked << keys.Add(text);
+        marked << (text.startsWith(u'=') ? keys.Again(text.mid(1)) : keys.Add(text));
     EXPECT_EQ(marked.join(u'|'), QString::fromUtf8(GetParam().expected));
 }
 
@@ -29,6 +29,8 @@ INSTANTIATE_TEST_SUITE_P(
         MnemonicCase{"ExistingMnemonicIsKeptAndClaimed", "E&xtras|Xerox", "E&xtras|X&erox"},
         MnemonicCase{"AmpersandsStayLiteral", "R&&D|Rock && Roll|& more", "&R&&D|R&ock && Roll|&& &more"},
         MnemonicCase{"SkipsPunctuationAndGivesUpWhenNothingIsFree", "ab|...ba|a-b", "&ab|...&ba|a-b"},
+        MnemonicCase{"AgainRepeatsTheLetterGivenBefore", "Log|Load|=Log|=Tab|Tab",
+                     "&Log|L&oad|&Log|&Tab|T&ab"},
         MnemonicCase{"NonAsciiLetters", "Öffnen|Ordner|Schließen", "&Öffnen|&Ordner|&Schließen"}),
     [](const ::testing::TestParamInfo<MnemonicCase>& info) { return info.param.name; });
 
