@@ -11,6 +11,7 @@
 
 #include "base/mString.h"
 #include "error/mError.h"
+#include "ui/EntryPoint.h"
 #include "ui/QtText.h"
 
 namespace {
@@ -70,7 +71,8 @@ ucPath::ucPath(QWidget* parent) : QWidget(parent), m_txtPath(new QLineEdit(this)
     setFocusProxy(m_txtPath);
     setAcceptDrops(true);
     setSizePolicy(m_txtPath->sizePolicy());
-    connect(m_txtPath, &QLineEdit::textChanged, this, &ucPath::txtPath_Change);
+    ConnectEntryPoint(m_txtPath, &QLineEdit::textChanged, this, &ucPath::txtPath_Change,
+                      "ucPath.txtPath_Change");
     QPalette palette = m_txtPath->palette();
     palette.setColor(QPalette::Base, kDefaultBackColor);
     m_txtPath->setPalette(palette);
@@ -180,15 +182,13 @@ void ucPath::dropEvent(QDropEvent* event) {
 
 // A path is one line, however it came in (typed, pasted, dropped or set): the text box loses the line
 // breaks at once and announces the text it then shows.
-void ucPath::txtPath_Change() try {
+void ucPath::txtPath_Change() {
     const QString text = m_txtPath->text();
     if (text.contains(QLatin1Char('\r')) || text.contains(QLatin1Char('\n'))) {
         m_txtPath->setText(QtText::ToQt(mString::OneLine(QtText::FromQt(text))));
         return;
     }
     emit Change();
-} catch (...) {
-    mError::ShowError("ucPath.txtPath_Change");
 }
 
 void ucPath::txtPath_OLEDragOver(QDragMoveEvent* event) try { TakeOffer(event); } catch (...) {

@@ -9,6 +9,7 @@
 #include "app/UserInterface.h"
 #include "error/mError.h"
 #include "profiles/Profile.h"
+#include "ui/EntryPoint.h"
 #include "ui/QtText.h"
 #include "ui/dialogs/MnemonicSet.h"
 
@@ -34,8 +35,10 @@ frmEditProfile::frmEditProfile(QWidget* parent)
     lblDesc->setBuddy(txtDescription);
     cmdOk = Button("cmdOk");
     cmdCancel = Button("cmdCancel");
-    connect(cmdOk, &QPushButton::clicked, this, &frmEditProfile::cmdOk_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmEditProfile::cmdCancel_Click);
+    ConnectEntryPoint(cmdOk, &QPushButton::clicked, this, &frmEditProfile::cmdOk_Click,
+                      "frmEditProfile.cmdOk_Click");
+    ConnectEntryPoint(cmdCancel, &QPushButton::clicked, this, &frmEditProfile::cmdCancel_Click,
+                      "frmEditProfile.cmdCancel_Click");
 
     auto* fields = new QFormLayout;
     fields->addRow(lblName, txtName);
@@ -104,16 +107,14 @@ bool frmEditProfile::CheckInput() try {
     mError::PassOn("frmEditProfile.CheckInput");
 }
 
-void frmEditProfile::cmdOk_Click() try {
+void frmEditProfile::cmdOk_Click() {
     if (!CheckInput())
         return;
     oProfile->SetProfileName(Profile::kNamePrefix + QtText::FromQt(txtName->text()));
     oProfile->SetProfileDescription(QtText::FromQt(txtDescription->text()));
     Confirm();
-} catch (...) {
-    mError::ShowError("frmEditProfile.cmdOk_Click");
 }
 
-void frmEditProfile::cmdCancel_Click() try { reject(); } catch (...) {
-    mError::ShowError("frmEditProfile.cmdCancel_Click");
+void frmEditProfile::cmdCancel_Click() {
+    reject();
 }

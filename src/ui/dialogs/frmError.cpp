@@ -19,6 +19,7 @@
 #include "error/mError.h"
 #include "platform/Platform.h"
 #include "translate/cTranslate.h"
+#include "ui/EntryPoint.h"
 #include "ui/QtText.h"
 #include "ui/dialogs/MnemonicSet.h"
 
@@ -58,7 +59,8 @@ frmError::frmError(QWidget* parent) : ModalDialog("frmError", "ERROR_DIALOG", pa
     layout->addWidget(CreateHeader());
     layout->addLayout(CreateTabbedPages(), 1);
     layout->addWidget(CreateButtonRow());
-    connect(TabStrip1, &QTabBar::currentChanged, this, &frmError::TabStrip1_Click);
+    ConnectEntryPoint(TabStrip1, &QTabBar::currentChanged, this, &frmError::TabStrip1_Click,
+                      "frmError.TabStrip1_Click");
     SetTabOrder();
     TranslateDialog();
 }
@@ -111,7 +113,8 @@ QWidget* frmError::CreateReportPage() {
     txtErrorNote->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('x')) * 64,
                                  metrics.lineSpacing() * 16);
     cmdContact = Button("cmdContact", page);
-    connect(cmdContact, &QPushButton::clicked, this, &frmError::cmdContact_Click);
+    ConnectEntryPoint(cmdContact, &QPushButton::clicked, this, &frmError::cmdContact_Click,
+                      "frmError.cmdContact_Click");
     layout->addWidget(lblNote);
     layout->addWidget(txtErrorNote, 1);
     layout->addLayout(RightAligned(cmdContact));
@@ -126,7 +129,8 @@ QWidget* frmError::CreateContactPage() {
     lblAddress = SelectableLabel(WrappedLabel("lblAddress", page));
     lblAddress->setText(QString::fromUtf8(Version::kContactEmail));
     cmdDetails = Button("cmdDetails", page);
-    connect(cmdDetails, &QPushButton::clicked, this, &frmError::cmdDetails_Click);
+    ConnectEntryPoint(cmdDetails, &QPushButton::clicked, this, &frmError::cmdDetails_Click,
+                      "frmError.cmdDetails_Click");
     layout->addWidget(lblContactInfo);
     layout->addWidget(lblAddress);
     layout->addStretch();
@@ -142,9 +146,12 @@ QWidget* frmError::CreateButtonRow() {
     Command1 = Button("Command1", row);
     cmdClose = Button("cmdClose", row);
     cmdCopy->setDefault(true);
-    connect(cmdCopy, &QPushButton::clicked, this, &frmError::cmdCopy_Click);
-    connect(Command1, &QPushButton::clicked, this, &frmError::Command1_Click);
-    connect(cmdClose, &QPushButton::clicked, this, &frmError::cmdClose_Click);
+    ConnectEntryPoint(cmdCopy, &QPushButton::clicked, this, &frmError::cmdCopy_Click,
+                      "frmError.cmdCopy_Click");
+    ConnectEntryPoint(Command1, &QPushButton::clicked, this, &frmError::Command1_Click,
+                      "frmError.Command1_Click");
+    ConnectEntryPoint(cmdClose, &QPushButton::clicked, this, &frmError::cmdClose_Click,
+                      "frmError.cmdClose_Click");
     layout->addWidget(cmdCopy);
     layout->addWidget(Command1);
     layout->addStretch();
@@ -201,37 +208,33 @@ void frmError::ShowPage(Page page) {
     Command1->setFocus();
 }
 
-void frmError::TabStrip1_Click(int index) try { ActivatePage(index); } catch (...) {
-    mError::ShowError("frmError.TabStrip1_Click");
+void frmError::TabStrip1_Click(int index) {
+    ActivatePage(index);
 }
 
-void frmError::cmdContact_Click() try { ShowPage(kContactPage); } catch (...) {
-    mError::ShowError("frmError.cmdContact_Click");
+void frmError::cmdContact_Click() {
+    ShowPage(kContactPage);
 }
 
-void frmError::cmdDetails_Click() try { ShowPage(kReportPage); } catch (...) {
-    mError::ShowError("frmError.cmdDetails_Click");
+void frmError::cmdDetails_Click() {
+    ShowPage(kReportPage);
 }
 
-void frmError::cmdCopy_Click() try {
+void frmError::cmdCopy_Click() {
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->clear();
     clipboard->setText(QtText::ToQt(m_report.text));
-} catch (...) {
-    mError::ShowError("frmError.cmdCopy_Click");
 }
 
 // Before the application object exists there is nobody to ask, so the mail goes straight to the shell.
-void frmError::Command1_Click() try {
+void frmError::Command1_Click() {
     const auto owner = static_cast<int64_t>(winId());
     if (g_cApp)
         g_cApp->ContactAuthor(owner);
     else
         Os().ShellExec(owner, "open", Application::ContactAddress(), "", "", kSwShowNormal);
-} catch (...) {
-    mError::ShowError("frmError.Command1_Click");
 }
 
-void frmError::cmdClose_Click() try { close(); } catch (...) {
-    mError::ShowError("frmError.cmdClose_Click");
+void frmError::cmdClose_Click() {
+    close();
 }

@@ -8,6 +8,7 @@
 #include "app/UserInterface.h"
 #include "error/mError.h"
 #include "profiles/Profiles.h"
+#include "ui/EntryPoint.h"
 #include "ui/controls/ucProfiles.h"
 #include "ui/dialogs/MnemonicSet.h"
 
@@ -27,11 +28,17 @@ frmLoadProfile::frmLoadProfile(QWidget* parent)
     cmdHelp = Button("cmdHelp");
     cmdOk = Button("cmdOk");
     cmdCancel = Button("cmdCancel");
-    connect(cmdOk, &QPushButton::clicked, this, &frmLoadProfile::cmdOk_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmLoadProfile::cmdCancel_Click);
-    connect(cmdHelp, &QPushButton::clicked, this, &frmLoadProfile::cmdHelp_Click);
-    connect(ucProfiles1, &ucProfiles::SelectionChanged, this, &frmLoadProfile::ucProfiles1_SelectionChanged);
-    connect(ucProfiles1, &ucProfiles::RowDoubleClicked, this, &frmLoadProfile::cmdOk_Click);
+    ConnectEntryPoint(cmdOk, &QPushButton::clicked, this, &frmLoadProfile::cmdOk_Click,
+                      "frmLoadProfile.cmdOk_Click");
+    ConnectEntryPoint(cmdCancel, &QPushButton::clicked, this, &frmLoadProfile::cmdCancel_Click,
+                      "frmLoadProfile.cmdCancel_Click");
+    ConnectEntryPoint(cmdHelp, &QPushButton::clicked, this, &frmLoadProfile::cmdHelp_Click,
+                      "frmLoadProfile.cmdHelp_Click");
+    ConnectEntryPoint(ucProfiles1, &ucProfiles::SelectionChanged, this,
+                      &frmLoadProfile::ucProfiles1_SelectionChanged,
+                      "frmLoadProfile.ucProfiles1_SelectionChanged");
+    ConnectEntryPoint(ucProfiles1, &ucProfiles::RowDoubleClicked, this, &frmLoadProfile::cmdOk_Click,
+                      "frmLoadProfile.cmdOk_Click");
 
     QHBoxLayout* buttons = ButtonRow({cmdOk, cmdCancel});
     buttons->insertWidget(0, cmdHelp);
@@ -75,21 +82,19 @@ void frmLoadProfile::EnableOk() {
     cmdOk->setEnabled(ucProfiles1->SelectedProfile() != nullptr);
 }
 
-void frmLoadProfile::ucProfiles1_SelectionChanged() try { EnableOk(); } catch (...) {
-    mError::ShowError("frmLoadProfile.ucProfiles1_SelectionChanged");
+void frmLoadProfile::ucProfiles1_SelectionChanged() {
+    EnableOk();
 }
 
-void frmLoadProfile::cmdOk_Click() try {
+void frmLoadProfile::cmdOk_Click() {
     if (ucProfiles1->SelectedProfile() != nullptr)
         Confirm();
-} catch (...) {
-    mError::ShowError("frmLoadProfile.cmdOk_Click");
 }
 
-void frmLoadProfile::cmdCancel_Click() try { reject(); } catch (...) {
-    mError::ShowError("frmLoadProfile.cmdCancel_Click");
+void frmLoadProfile::cmdCancel_Click() {
+    reject();
 }
 
-void frmLoadProfile::cmdHelp_Click() try { Ui().MsgBox(kHelpText, vbOKOnly); } catch (...) {
-    mError::ShowError("frmLoadProfile.cmdHelp_Click");
+void frmLoadProfile::cmdHelp_Click() {
+    Ui().MsgBox(kHelpText, vbOKOnly);
 }

@@ -10,6 +10,7 @@
 #include "app/PublicObjects.h"
 #include "app/mMain.h"
 #include "error/mError.h"
+#include "ui/EntryPoint.h"
 #include "ui/QtText.h"
 #include "ui/controls/ucPath.h"
 #include "ui/dialogs/MnemonicSet.h"
@@ -26,9 +27,11 @@ frmOptions::frmOptions(QWidget* parent) : ModalDialog("frmOptions", "OPTIONS_DIA
     ckSafetyPromptBeforeStartOfTarvolin->setObjectName(QStringLiteral("ckSafetyPromptBeforeStartOfTarvolin"));
     cmdOk = Button("cmdOk");
     cmdCancel = Button("cmdCancel");
-    connect(cmdEditorPath, &QPushButton::clicked, this, &frmOptions::cmdEditorPath_Click);
-    connect(cmdOk, &QPushButton::clicked, this, &frmOptions::cmdOk_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmOptions::cmdCancel_Click);
+    ConnectEntryPoint(cmdEditorPath, &QPushButton::clicked, this, &frmOptions::cmdEditorPath_Click,
+                      "frmOptions.cmdEditorPath_Click");
+    ConnectEntryPoint(cmdOk, &QPushButton::clicked, this, &frmOptions::cmdOk_Click, "frmOptions.cmdOk_Click");
+    ConnectEntryPoint(cmdCancel, &QPushButton::clicked, this, &frmOptions::cmdCancel_Click,
+                      "frmOptions.cmdCancel_Click");
 
     auto* editor = new QGridLayout;
     editor->addWidget(lblEditor, 0, 0, 1, 2);
@@ -69,12 +72,10 @@ void frmOptions::TranslateDialog() try {
 
 // A cancelled chooser returns its proposal, so a cancel on an empty field still fills in the proposed
 // editor.
-void frmOptions::cmdEditorPath_Click() try {
+void frmOptions::cmdEditorPath_Click() {
     const std::string chosen = mMain::AskForEditorPath(QtText::FromQt(txtEditorPath->Text()));
     if (!chosen.empty())
         txtEditorPath->SetText(QtText::ToQt(chosen));
-} catch (...) {
-    mError::ShowError("frmOptions.cmdEditorPath_Click");
 }
 
 void frmOptions::SaveSettings() try {
@@ -85,13 +86,11 @@ void frmOptions::SaveSettings() try {
     mError::PassOn("frmOptions.SaveSettings");
 }
 
-void frmOptions::cmdOk_Click() try {
+void frmOptions::cmdOk_Click() {
     SaveSettings();
     Confirm();
-} catch (...) {
-    mError::ShowError("frmOptions.cmdOk_Click");
 }
 
-void frmOptions::cmdCancel_Click() try { reject(); } catch (...) {
-    mError::ShowError("frmOptions.cmdCancel_Click");
+void frmOptions::cmdCancel_Click() {
+    reject();
 }

@@ -7,13 +7,15 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
+#include "ui/EntryPoint.h"
 #include "ui/controls/ucProfiles.h"
 
 frmProfiles::frmProfiles(QWidget* parent) : ModalDialog("frmProfiles", "PROFILES_DIALOG", parent) {
     ucProfiles1 = new ucProfiles(this);
     ucProfiles1->setObjectName(QStringLiteral("ucProfiles1"));
     cmdClose = Button("cmdClose");
-    connect(cmdClose, &QPushButton::clicked, this, &frmProfiles::cmdClose_Click);
+    ConnectEntryPoint(cmdClose, &QPushButton::clicked, this, &frmProfiles::cmdClose_Click,
+                      "frmProfiles.cmdClose_Click");
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(ucProfiles1, 1);
     layout->addLayout(ButtonRow({cmdClose}));
@@ -38,6 +40,6 @@ void frmProfiles::TranslateDialog() try {
     mError::PassOn("frmProfiles.TranslateDialog");
 }
 
-void frmProfiles::cmdClose_Click() try { accept(); } catch (...) {
-    mError::ShowError("frmProfiles.cmdClose_Click");
+void frmProfiles::cmdClose_Click() {
+    accept();
 }

@@ -8,6 +8,7 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "error/mError.h"
+#include "ui/EntryPoint.h"
 #include "ui/controls/ucProfiles.h"
 #include "ui/dialogs/MnemonicSet.h"
 
@@ -20,8 +21,10 @@ frmSave::frmSave(QWidget* parent) : ModalDialog("frmSave", "SAVE_DIALOG", parent
     lblListInfo = WrappedLabel("lblListInfo");
     Command1 = Button("Command1");
     Command2 = Button("Command2");
-    connect(Command1, &QPushButton::clicked, this, &frmSave::Command1_Click);
-    connect(Command2, &QPushButton::clicked, this, &frmSave::Command2_Click);
+    ConnectEntryPoint(Command1, &QPushButton::clicked, this, &frmSave::Command1_Click,
+                      "frmSave.Command1_Click");
+    ConnectEntryPoint(Command2, &QPushButton::clicked, this, &frmSave::Command2_Click,
+                      "frmSave.Command2_Click");
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(lblListTitle);
@@ -54,15 +57,13 @@ void frmSave::TranslateDialog() try {
     mError::PassOn("frmSave.TranslateDialog");
 }
 
-void frmSave::Command1_Click() try {
+void frmSave::Command1_Click() {
     const platform::WriteFault fault = App().SaveDataEx(ucProfiles1->GetSelectedItems());
     Confirm();
     if (fault != platform::WriteFault::None)
         App().TellUnsaved(fault);
-} catch (...) {
-    mError::ShowError("frmSave.Command1_Click");
 }
 
-void frmSave::Command2_Click() try { reject(); } catch (...) {
-    mError::ShowError("frmSave.Command2_Click");
+void frmSave::Command2_Click() {
+    reject();
 }

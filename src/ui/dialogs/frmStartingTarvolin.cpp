@@ -11,6 +11,7 @@
 #include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "profiles/Profile.h"
+#include "ui/EntryPoint.h"
 #include "ui/QtText.h"
 #include "ui/dialogs/MnemonicSet.h"
 
@@ -48,8 +49,10 @@ frmStartingTarvolin::frmStartingTarvolin(QWidget* parent)
 QLayout* frmStartingTarvolin::CreateButtonRow() {
     cmdOk = Button("cmdOk");
     cmdCancel = Button("cmdCancel");
-    connect(cmdOk, &QPushButton::clicked, this, &frmStartingTarvolin::cmdOk_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmStartingTarvolin::cmdCancel_Click);
+    ConnectEntryPoint(cmdOk, &QPushButton::clicked, this, &frmStartingTarvolin::cmdOk_Click,
+                      "frmStartingTarvolin.cmdOk_Click");
+    ConnectEntryPoint(cmdCancel, &QPushButton::clicked, this, &frmStartingTarvolin::cmdCancel_Click,
+                      "frmStartingTarvolin.cmdCancel_Click");
     return ButtonRow({cmdOk, cmdCancel});
 }
 
@@ -74,13 +77,11 @@ void frmStartingTarvolin::TranslateDialog() try {
     mError::PassOn("frmStartingTarvolin.TranslateDialog");
 }
 
-void frmStartingTarvolin::cmdOk_Click() try {
+void frmStartingTarvolin::cmdOk_Click() {
     App().Options().SetShowStartTarvolinDialog(!ckDontShowThisDialogAgain->isChecked());
     Confirm();
-} catch (...) {
-    mError::ShowError("frmStartingTarvolin.cmdOk_Click");
 }
 
-void frmStartingTarvolin::cmdCancel_Click() try { reject(); } catch (...) {
-    mError::ShowError("frmStartingTarvolin.cmdCancel_Click");
+void frmStartingTarvolin::cmdCancel_Click() {
+    reject();
 }

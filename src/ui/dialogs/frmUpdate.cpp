@@ -11,6 +11,7 @@
 #include "error/mError.h"
 #include "platform/Platform.h"
 #include "translate/cTranslate.h"
+#include "ui/EntryPoint.h"
 #include "ui/Named.h"
 #include "ui/QtText.h"
 #include "ui/dialogs/MnemonicSet.h"
@@ -30,9 +31,12 @@ frmUpdate::frmUpdate(QWidget* parent) : ModalDialog("frmUpdate", "UPDATE_DIALOG"
     cmdSearchUpdates = Button("cmdSearchUpdates");
     cmdOpenUpdatePage = Button("cmdOpenUpdatePage");
     cmdClose = Button("cmdClose");
-    connect(cmdSearchUpdates, &QPushButton::clicked, this, &frmUpdate::cmdSearchUpdates_Click);
-    connect(cmdOpenUpdatePage, &QPushButton::clicked, this, &frmUpdate::cmdOpenUpdatePage_Click);
-    connect(cmdClose, &QPushButton::clicked, this, &frmUpdate::cmdClose_Click);
+    ConnectEntryPoint(cmdSearchUpdates, &QPushButton::clicked, this, &frmUpdate::cmdSearchUpdates_Click,
+                      "frmUpdate.cmdSearchUpdates_Click");
+    ConnectEntryPoint(cmdOpenUpdatePage, &QPushButton::clicked, this, &frmUpdate::cmdOpenUpdatePage_Click,
+                      "frmUpdate.cmdOpenUpdatePage_Click");
+    ConnectEntryPoint(cmdClose, &QPushButton::clicked, this, &frmUpdate::cmdClose_Click,
+                      "frmUpdate.cmdClose_Click");
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(lblInfo);
@@ -81,7 +85,7 @@ void frmUpdate::TranslateDialog() try {
 }
 
 // The same button starts a check and cancels a running one.
-void frmUpdate::cmdSearchUpdates_Click() try {
+void frmUpdate::cmdSearchUpdates_Click() {
     if (Searching()) {
         delete m_download;
         EndDownload();
@@ -89,8 +93,6 @@ void frmUpdate::cmdSearchUpdates_Click() try {
         return;
     }
     SearchUpdates();
-} catch (...) {
-    mError::ShowError("frmUpdate.cmdSearchUpdates_Click");
 }
 
 void frmUpdate::SearchUpdates() try {
@@ -98,15 +100,17 @@ void frmUpdate::SearchUpdates() try {
     cmdOpenUpdatePage->setEnabled(false);
     lblStatus->setText(ItemText("MSG_SEARCHING"));
     m_download = new mInternet::Download(update::FileAddress(), 0, {}, this);
-    connect(m_download, &mInternet::Download::Finished, this, &frmUpdate::ShowReply);
-    connect(m_download, &mInternet::Download::Failed, this, &frmUpdate::ShowFailure);
+    ConnectEntryPoint(m_download.data(), &mInternet::Download::Finished, this, &frmUpdate::ShowReply,
+                      "frmUpdate.SearchUpdates");
+    ConnectEntryPoint(m_download.data(), &mInternet::Download::Failed, this, &frmUpdate::ShowFailure,
+                      "frmUpdate.SearchUpdates");
     ShowSearching();
 } catch (...) {
     mError::ShowError("frmUpdate.SearchUpdates");
 }
 
 // The check's second half, once the file is there.
-void frmUpdate::ShowReply(const QByteArray& body) try {
+void frmUpdate::ShowReply(const QByteArray& body) {
     EndDownload();
     lblUpdateInfo->clear();
     const update::Reply reply =
@@ -123,17 +127,13 @@ void frmUpdate::ShowReply(const QByteArray& body) try {
     }
     m_updatePage = *page;
     cmdOpenUpdatePage->setEnabled(true);
-} catch (...) {
-    mError::ShowError("frmUpdate.SearchUpdates");
 }
 
-void frmUpdate::ShowFailure(const QString& description, const QString& detail) try {
+void frmUpdate::ShowFailure(const QString& description, const QString& detail) {
     EndDownload();
     lblStatus->setText(
         QtText::ToQt(Translator().TranslateEx("UPDATE_DIALOG", "MSG_CHECK_FAILED", QtText::FromQt(detail))));
     mError::RaiseError(update::kDownloadFailed, QtText::FromQt(description));
-} catch (...) {
-    mError::ShowError("frmUpdate.SearchUpdates");
 }
 
 bool frmUpdate::Searching() const {
@@ -156,15 +156,13 @@ void frmUpdate::EndDownload() {
 }
 
 // Only a page that passed the check on the site's own host is ever handed to the shell.
-void frmUpdate::cmdOpenUpdatePage_Click() try {
+void frmUpdate::cmdOpenUpdatePage_Click() {
     if (!m_updatePage.empty())
         Os().ShellExec(static_cast<int64_t>(winId()), "open", m_updatePage, "", "", kSwShowNormal);
-} catch (...) {
-    mError::ShowError("frmUpdate.cmdOpenUpdatePage_Click");
 }
 
-void frmUpdate::cmdClose_Click() try { reject(); } catch (...) {
-    mError::ShowError("frmUpdate.cmdClose_Click");
+void frmUpdate::cmdClose_Click() {
+    reject();
 }
 
 // Closing ends a running check first.

@@ -13,7 +13,6 @@
 
 #include <QMainWindow>
 #include <array>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -113,8 +112,6 @@ private:
     bool Form_QueryUnload();
     void Form_Unload();
     void ConnectCommands();
-    // `handler` run as an event entry point that reports its failure under `trail`.
-    std::function<void()> EntryPoint(void (frmMain::*handler)(), const char* trail);
     // Tells the user that changes could not be saved; while the program ends on request nobody could
     // answer a window, so the message goes to the standard error output instead.
     void TellUnsaved(platform::WriteFault fault) const;

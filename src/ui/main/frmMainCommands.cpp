@@ -17,6 +17,7 @@
 #include "platform/Platform.h"
 #include "profiles/Profile.h"
 #include "translate/cTranslate.h"
+#include "ui/EntryPoint.h"
 #include "ui/QtText.h"
 #include "ui/QtTranslation.h"
 #include "ui/dialogs/frmEditProfile.h"
@@ -268,7 +269,7 @@ void frmMain::ConnectCommands() {
         {m_extra->OpenFolderButton(), &frmMain::cmdOpenTarvoDir_Click, "frmMain.cmdOpenTarvoDir_Click"},
         {m_game->BrowseButton(), &frmMain::cmdSelectTarvoPath_Click, "frmMain.cmdSelectTarvoPath_Click"}};
     for (const auto& [button, handler, trail] : buttons)
-        connect(button, &QPushButton::clicked, this, EntryPoint(handler, trail));
+        ConnectEntryPoint(button, &QPushButton::clicked, this, handler, trail);
     const std::tuple<QAction*, void (frmMain::*)(), const char*> actions[] = {
         {mnuFile_Save, &frmMain::mnuFile_Save_Click, "frmMain.mnuFile_Save_Click"},
         {mnuFile_Quit, &frmMain::mnuFile_Quit_Click, "frmMain.mnuFile_Quit_Click"},
@@ -289,9 +290,5 @@ void frmMain::ConnectCommands() {
         // Its report has always carried the name of the profile list's handler.
         {mnuHelp_About, &frmMain::mnuHelp_About_Click, "frmMain.mnuProfil_Manager_Click"}};
     for (const auto& [action, handler, trail] : actions)
-        connect(action, &QAction::triggered, this, EntryPoint(handler, trail));
-}
-
-std::function<void()> frmMain::EntryPoint(void (frmMain::*handler)(), const char* trail) {
-    return [this, handler, trail] { mError::AsEntryPoint(trail, [this, handler] { (this->*handler)(); }); };
+        ConnectEntryPoint(action, &QAction::triggered, this, handler, trail);
 }

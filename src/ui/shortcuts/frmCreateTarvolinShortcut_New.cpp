@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "error/mError.h"
+#include "ui/EntryPoint.h"
 #include "ui/Named.h"
 #include "ui/QtText.h"
 #include "ui/controls/ucPath.h"
@@ -164,18 +165,27 @@ void frmCreateTarvolinShortcut_New::ConnectControls() {
             mError::ShowError("frmCreateTarvolinShortcut_New.txtDest_Change");
         }
     });
-    connect(cmdSelLinkDestFolder, &QPushButton::clicked, this,
-            &frmCreateTarvolinShortcut_New::cmdSelLinkDestFolder_Click);
+    ConnectEntryPoint(cmdSelLinkDestFolder, &QPushButton::clicked, this,
+                      &frmCreateTarvolinShortcut_New::cmdSelLinkDestFolder_Click,
+                      "frmCreateTarvolinShortcut_New.cmdSelLinkDestFolder_Click");
     for (int i = 0; i < 4; ++i)
         connect(opDest[i], &QRadioButton::clicked, this, [this, i] { opDest_Click(i); });
-    connect(cmdSelFolder, &QPushButton::clicked, this, &frmCreateTarvolinShortcut_New::cmdSelFolder_Click);
-    connect(ckCreateFurtherShortcut, &QCheckBox::clicked, this,
-            &frmCreateTarvolinShortcut_New::ckCreateFurtherShortcut_Click);
-    connect(nav, &ucWizard_Nav::PageShowing, this, &frmCreateTarvolinShortcut_New::ucWizard_Nav_ShowPage);
+    ConnectEntryPoint(cmdSelFolder, &QPushButton::clicked, this,
+                      &frmCreateTarvolinShortcut_New::cmdSelFolder_Click,
+                      "frmCreateTarvolinShortcut_New.cmdSelFolder_Click");
+    ConnectEntryPoint(ckCreateFurtherShortcut, &QCheckBox::clicked, this,
+                      &frmCreateTarvolinShortcut_New::ckCreateFurtherShortcut_Click,
+                      "frmCreateTarvolinShortcut_New.ckCreateFurtherShortcut_Click");
+    ConnectEntryPoint(nav, &ucWizard_Nav::PageShowing, this,
+                      &frmCreateTarvolinShortcut_New::ucWizard_Nav_ShowPage,
+                      "frmCreateTarvolinShortcut_New.ucWizard_Nav_ShowPage");
     connect(nav, &ucWizard_Nav::LeavePage, this, &frmCreateTarvolinShortcut_New::ucWizard_Nav_LeavePage);
-    connect(nav, &ucWizard_Nav::NextClicked, this, &frmCreateTarvolinShortcut_New::ucWizard_Nav_NextClicked);
-    connect(nav, &ucWizard_Nav::CancelClicked, this,
-            &frmCreateTarvolinShortcut_New::ucWizard_Nav_CancelClicked);
+    ConnectEntryPoint(nav, &ucWizard_Nav::NextClicked, this,
+                      &frmCreateTarvolinShortcut_New::ucWizard_Nav_NextClicked,
+                      "frmCreateTarvolinShortcut_New.ucWizard_Nav_NextClicked");
+    ConnectEntryPoint(nav, &ucWizard_Nav::CancelClicked, this,
+                      &frmCreateTarvolinShortcut_New::ucWizard_Nav_CancelClicked,
+                      "frmCreateTarvolinShortcut_New.ucWizard_Nav_CancelClicked");
 }
 
 void frmCreateTarvolinShortcut_New::TranslateDialog() try {

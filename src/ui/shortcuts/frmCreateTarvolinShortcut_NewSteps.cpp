@@ -82,12 +82,10 @@ void frmCreateTarvolinShortcut_New::SetDefaultLinkName() try {
     mError::PassOn(Procedure("SetDefaultLinkName"));
 }
 
-void frmCreateTarvolinShortcut_New::cmdSelLinkDestFolder_Click() try {
+void frmCreateTarvolinShortcut_New::cmdSelLinkDestFolder_Click() {
     const std::string chosen = mMain::AskForTarvoPath(Text(txtDest));
     if (!chosen.empty())
         txtDest->SetText(QtText::ToQt(chosen));
-} catch (...) {
-    mError::ShowError(Procedure("cmdSelLinkDestFolder_Click"));
 }
 
 void frmCreateTarvolinShortcut_New::opDest_Click(int index) try {
@@ -108,23 +106,19 @@ void frmCreateTarvolinShortcut_New::opDest_Click(int index) try {
     mError::ShowError(Procedure("opDest_Click"));
 }
 
-void frmCreateTarvolinShortcut_New::cmdSelFolder_Click() try {
+void frmCreateTarvolinShortcut_New::cmdSelFolder_Click() {
     const std::string chosen = mCommonDialog::BrowseForFolder(static_cast<int64_t>(winId()),
                                                               QtText::FromQt(GlobalText("MSG_SELECT_FOLDER")),
                                                               Os().SpecialFolder(m_browseRoot));
     if (!chosen.empty())
         txtDestFolder->SetText(QtText::ToQt(chosen));
-} catch (...) {
-    mError::ShowError(Procedure("cmdSelFolder_Click"));
 }
 
-void frmCreateTarvolinShortcut_New::ckCreateFurtherShortcut_Click() try {
+void frmCreateTarvolinShortcut_New::ckCreateFurtherShortcut_Click() {
     nav->SetNextButtonEnabled(ckCreateFurtherShortcut->isChecked());
-} catch (...) {
-    mError::ShowError(Procedure("ckCreateFurtherShortcut_Click"));
 }
 
-void frmCreateTarvolinShortcut_New::ucWizard_Nav_ShowPage(int16_t pageNo) try {
+void frmCreateTarvolinShortcut_New::ucWizard_Nav_ShowPage(int16_t pageNo) {
     if (pageNo >= 1 && pageNo <= kPages)
         pages->setCurrentWidget(picStep[pageNo - 1]);
     const std::string step = "STEP" + std::to_string(pageNo);
@@ -136,8 +130,6 @@ void frmCreateTarvolinShortcut_New::ucWizard_Nav_ShowPage(int16_t pageNo) try {
     if (pageNo == 6)
         nav->SetCancelButtonCaption(GlobalText("BTN_CLOSE"));
     FocusFirstField(pages->currentWidget());
-} catch (...) {
-    mError::ShowError(Procedure("ucWizard_Nav_ShowPage"));
 }
 
 // Shows the message, keeps the page: the result is the cancel flag.
@@ -164,19 +156,17 @@ void frmCreateTarvolinShortcut_New::ucWizard_Nav_LeavePage(int16_t pageNo, bool*
 }
 
 // A failure on the way leaves the flag set, so the page stays.
-void frmCreateTarvolinShortcut_New::ucWizard_Nav_NextClicked(int16_t pageNo, bool* cancel) try {
+void frmCreateTarvolinShortcut_New::ucWizard_Nav_NextClicked(int16_t pageNo, bool* cancel) {
     *cancel = true;
     if (pageNo == 6)
         CreateShortcut();
     if (pageNo == 7)
         nav->ShowPage(1);
     *cancel = false;
-} catch (...) {
-    mError::ShowError(Procedure("ucWizard_Nav_NextClicked"));
 }
 
-void frmCreateTarvolinShortcut_New::ucWizard_Nav_CancelClicked() try { reject(); } catch (...) {
-    mError::ShowError(Procedure("ucWizard_Nav_CancelClicked"));
+void frmCreateTarvolinShortcut_New::ucWizard_Nav_CancelClicked() {
+    reject();
 }
 
 void frmCreateTarvolinShortcut_New::CreateShortcut() try {

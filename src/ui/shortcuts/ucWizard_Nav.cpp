@@ -7,6 +7,7 @@
 #include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "translate/cTranslate.h"
+#include "ui/EntryPoint.h"
 #include "ui/Named.h"
 #include "ui/QtText.h"
 #include "ui/controls/HLine.h"
@@ -52,9 +53,12 @@ ucWizard_Nav::ucWizard_Nav(QWidget* parent) : QWidget(parent) {
     // Next comes first for the keyboard, as it is the button a user presses most.
     setTabOrder(cmdNext, cmdBack);
     setTabOrder(cmdBack, cmdCancel);
-    connect(cmdBack, &QPushButton::clicked, this, &ucWizard_Nav::cmdBack_Click);
-    connect(cmdNext, &QPushButton::clicked, this, &ucWizard_Nav::cmdNext_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &ucWizard_Nav::cmdCancel_Click);
+    ConnectEntryPoint(cmdBack, &QPushButton::clicked, this, &ucWizard_Nav::cmdBack_Click,
+                      "ucPath.cmdBack_Click");
+    ConnectEntryPoint(cmdNext, &QPushButton::clicked, this, &ucWizard_Nav::cmdNext_Click,
+                      "ucPath.cmdNext_Click");
+    ConnectEntryPoint(cmdCancel, &QPushButton::clicked, this, &ucWizard_Nav::cmdCancel_Click,
+                      "ucPath.cmdCancel_Click");
 }
 
 void ucWizard_Nav::SetPageCount(int16_t value) try {
@@ -112,7 +116,7 @@ void ucWizard_Nav::SetNextButtonEnabled(bool value) {
 
 // The page number is read again after NextClicked: a host that moved the wizard itself is followed by one
 // more step.
-void ucWizard_Nav::cmdNext_Click() try {
+void ucWizard_Nav::cmdNext_Click() {
     bool cancel = false;
     emit LeavePage(m_curPageNo, &cancel);
     if (cancel)
@@ -120,11 +124,9 @@ void ucWizard_Nav::cmdNext_Click() try {
     emit NextClicked(static_cast<int16_t>(m_curPageNo + 1), &cancel);
     if (!cancel)
         ShowPage(static_cast<int16_t>(m_curPageNo + 1));
-} catch (...) {
-    mError::ShowError(Procedure("cmdNext_Click"));
 }
 
-void ucWizard_Nav::cmdBack_Click() try {
+void ucWizard_Nav::cmdBack_Click() {
     bool cancel = false;
     emit LeavePage(m_curPageNo, &cancel);
     if (cancel)
@@ -132,12 +134,10 @@ void ucWizard_Nav::cmdBack_Click() try {
     emit BackClicked(static_cast<int16_t>(m_curPageNo - 1), &cancel);
     if (!cancel)
         ShowPage(static_cast<int16_t>(m_curPageNo - 1));
-} catch (...) {
-    mError::ShowError(Procedure("cmdBack_Click"));
 }
 
-void ucWizard_Nav::cmdCancel_Click() try { emit CancelClicked(); } catch (...) {
-    mError::ShowError(Procedure("cmdCancel_Click"));
+void ucWizard_Nav::cmdCancel_Click() {
+    emit CancelClicked();
 }
 
 void ucWizard_Nav::RefreshNavButtons() try {
