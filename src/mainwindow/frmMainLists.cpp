@@ -1,14 +1,11 @@
 #include "mainwindow/frmMainLists.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "app/Application.h"
 #include "app/mPath.h"
 #include "base/mString.h"
 #include "error/mError.h"
 #include "mainwindow/frmMainRules.h"
-#include "platform/NativePath.h"
+#include "platform/FileSystem.h"
 #include "profiles/Profiles.h"
 
 namespace frmMainLists {
@@ -17,15 +14,7 @@ namespace {
 // The names in `folder` (found in any case) whose entry is a folder (`folders`) or a file (`!folders`), in
 // listing order; none when the folder cannot be listed.
 std::vector<std::string> NamesIn(const std::string& folder, bool folders) {
-    std::vector<std::string> names;
-    std::error_code error;
-    std::filesystem::directory_iterator entry(platform::PathOf(mPath::InAnyCase(folder)), error);
-    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        std::error_code ignored;
-        if (entry->is_directory(ignored) == folders)
-            names.push_back(platform::TextOf(entry->path().filename()));
-    }
-    return names;
+    return platform::NamesIn(mPath::InAnyCase(folder), folders);
 }
 
 }  // namespace

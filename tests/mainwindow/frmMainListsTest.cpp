@@ -39,6 +39,14 @@ TEST_F(frmMainListsTest, GameFolderListsHoldScenarioFoldersAndPakFiles) {
     EXPECT_EQ(frmMainLists::ScenarioEntries(dir.File("other/tarvolin.exe")),
               std::vector<std::string>{Native("scenarios/demo")});
     EXPECT_TRUE(frmMainLists::DatenPakEntries("").empty());
+#ifndef _WIN32
+    // A link counts as what it leads to; one that leads nowhere is no scenario.
+    std::filesystem::create_directory_symlink(dir.Path() / "game" / "Scenarios" / "demo",
+                                              dir.Path() / "other" / "scenarios" / "linked");
+    std::filesystem::create_symlink(dir.Path() / "gone", dir.Path() / "other" / "scenarios" / "dangling");
+    EXPECT_EQ(Sorted(frmMainLists::ScenarioEntries(dir.File("other/tarvolin.exe"))),
+              (std::vector<std::string>{"scenarios/demo", "scenarios/linked"}));
+#endif
 }
 
 TEST_F(frmMainListsTest, ProfileMenuFollowsTheCollectionAndMarksTheActiveProfile) {

@@ -190,6 +190,26 @@ std::optional<FileDetails> DetailsOf(const std::string& path) {
     return details;
 }
 
+std::vector<std::string> NamesIn(const std::string& folder, bool folders) {
+    std::vector<std::string> names;
+    DIR* listing = opendir(folder.c_str());
+    if (listing == nullptr)
+        return names;
+    while (const dirent* entry = readdir(listing)) {
+        const std::string_view name = entry->d_name;
+        if (name == "." || name == "..")
+            continue;
+        bool folder = entry->d_type == DT_DIR;
+        struct stat target {};
+        if (entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN)
+            folder = fstatat(dirfd(listing), entry->d_name, &target, 0) == 0 && S_ISDIR(target.st_mode);
+        if (folder == folders)
+            names.emplace_back(name);
+    }
+    closedir(listing);
+    return names;
+}
+
 std::optional<FileStamp> StampOf(const std::string& path) {
     struct stat info {};
     if (stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode))

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <random>
+#include <string_view>
 
 #include "platform/NativePath.h"
 #include "platform/SideFiles.h"
@@ -182,6 +183,25 @@ std::optional<FileDetails> DetailsOf(const std::string& path) {
     details.readOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0;
     details.hidden = (attributes & FILE_ATTRIBUTE_HIDDEN) != 0;
     return details;
+}
+
+std::vector<std::string> NamesIn(const std::string& folder, bool folders) {
+    std::vector<std::string> names;
+    if (folder.empty())
+        return names;
+    const bool separated = folder.back() == '\\' || folder.back() == '/';
+    WIN32_FIND_DATAA entry;
+    HANDLE listing = FindFirstFileExA((folder + (separated ? "*" : "\\*")).c_str(), FindExInfoBasic, &entry,
+                                      FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+    if (listing == INVALID_HANDLE_VALUE)
+        return names;
+    do {
+        const std::string_view name = entry.cFileName;
+        if (name != "." && name != ".." && IsFolder(entry.dwFileAttributes) == folders)
+            names.emplace_back(name);
+    } while (FindNextFileA(listing, &entry));
+    FindClose(listing);
+    return names;
 }
 
 std::optional<FileStamp> StampOf(const std::string& path) {
