@@ -51,8 +51,11 @@ std::string SettingsFile(int profiles) {
 
 }  // namespace
 
-TempFolder::TempFolder(const std::string& name)
-    : m_path(fs::temp_directory_path() / (name + "-" + std::to_string(::getpid()))) {
+// Two folders of one name in one process are two folders: each gets a number of its own.
+TempFolder::TempFolder(const std::string& name) {
+    static int made = 0;
+    m_path =
+        fs::temp_directory_path() / (name + "-" + std::to_string(::getpid()) + "-" + std::to_string(++made));
     fs::create_directories(m_path);
 }
 

@@ -8,8 +8,8 @@
 
 #include "platform/Platform.h"
 
-// A folder of a benchmark's own under the temporary folder (its name gets the process id), removed with
-// everything in it when the benchmark is done with it.
+// A folder of a benchmark's own under the temporary folder (its name gets the process id and a number),
+// removed with everything in it when the benchmark is done with it.
 class TempFolder {
 public:
     explicit TempFolder(const std::string& name);

@@ -1,7 +1,7 @@
 // A cold start of the program, from the process's start to the main window's first paint, and its peak
 // memory, side by side with a bare Qt window of five tabbed pages built the same way; both on the offscreen
 // platform, each start a process of its own. Also: a start with a game folder of 10,000 graphic paks and
-// 1,000 scenarios.
+// 1,000 scenarios, and all of them side by side in turns.
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -16,12 +16,14 @@
 #include <QMenuBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "BenchFolder.h"
 #include "ui/Main.h"
@@ -151,14 +153,55 @@ public:
     }
 };
 
-// The active profile's game is in that folder.
-void BM_PavonelBigGameFolder(benchmark::State& state) {
+// A program folder of 10 profiles whose games are in that folder.
+const std::string& BigGameProgramFolder() {
     static BenchFolder folder(10);
     static const BigGameFolder game;
     [[maybe_unused]] static const bool pointed = (folder.PointAt(game.Path()), true);
-    Measure(state, "main", folder.Path().string());
+    static const std::string path = folder.Path().string();
+    return path;
+}
+
+void BM_PavonelBigGameFolder(benchmark::State& state) {
+    Measure(state, "main", BigGameProgramFolder());
 }
 BENCHMARK(BM_PavonelBigGameFolder)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+// The four starts in turns, so that a machine that speeds up or slows down during the run moves all of
+// them alike: each row's median time over the bare window's, and its peak memory above the bare window's.
+void BM_SideBySide(benchmark::State& state) {
+    static BenchFolder ten(10);
+    static BenchFolder thousand(1000);
+    const std::pair<const char*, std::string> rows[] = {{"bare", ""},
+                                                        {"10", ten.Path().string()},
+                                                        {"1000", thousand.Path().string()},
+                                                        {"big", BigGameProgramFolder()}};
+    std::vector<std::vector<double>> times(std::size(rows));
+    std::vector<double> memory(std::size(rows), 0.0);
+    for (auto _ : state) {
+        for (std::size_t row = 0; row < std::size(rows); ++row) {
+            const auto [seconds, mebibytes] = Start(row == 0 ? "bare" : "main", rows[row].second);
+            if (seconds < 0) {
+                state.SkipWithError("a window did not paint");
+                return;
+            }
+            times[row].push_back(seconds);
+            memory[row] = std::max(memory[row], mebibytes);
+        }
+        state.SetIterationTime(times[0].back());
+    }
+    state.counters["bare_ms"] = Median(times[0]) * 1000;
+    for (std::size_t row = 1; row < std::size(rows); ++row) {
+        state.counters[std::string("x_") + rows[row].first] = Median(times[row]) / Median(times[0]);
+        state.counters[std::string("MiB+_") + rows[row].first] = memory[row] - memory[0];
+    }
+}
+BENCHMARK(BM_SideBySide)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(30);
 
 }  // namespace
 
