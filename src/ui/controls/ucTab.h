@@ -36,7 +36,6 @@ signals:
     void Click();
     // At the end of every layout of the tab's width.
     void Resize();
-    // A persisted property was set; its key tells the host which.
 
 protected:
     void paintEvent(QPaintEvent* event) override;
