@@ -1,5 +1,7 @@
 #include "ui/controls/ucTab.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -40,12 +42,55 @@ bool IsActivationKey(const QKeyEvent* event) {
     return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
+QAccessibleInterface* AccessibleTab(const QString& /*className*/, QObject* object);
+
+}  // namespace
+
+// What a screen reader meets of a tab: a page tab with the caption as its name, selected while it is the
+// active one, and pressed as a click presses it.
+class ucTabAccessible : public QAccessibleWidget {
+public:
+    explicit ucTabAccessible(ucTab* tab) : QAccessibleWidget(tab, QAccessible::PageTab) {}
+
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Name)
+            return Tab()->m_label->text();
+        return QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.selectable = true;
+        state.selected = Tab()->m_isActive;
+        return state;
+    }
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    void doAction(const QString& action) override {
+        if (action == pressAction())
+            Tab()->UserControl_Click();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    ucTab* Tab() const { return static_cast<ucTab*>(widget()); }
+};
+
+namespace {
+
+QAccessibleInterface* AccessibleTab(const QString& /*className*/, QObject* object) {
+    if (auto* tab = qobject_cast<ucTab*>(object))
+        return new ucTabAccessible(tab);
+    return nullptr;
+}
+
 }  // namespace
 
 ucTab::ucTab(QWidget* parent) : QWidget(parent), m_label(new QLabel(kDefaultCaption, this)) {
     m_label->setObjectName(QStringLiteral("Label1"));
     m_label->setTextFormat(Qt::PlainText);
     m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    static const bool accessible = (QAccessible::installFactory(AccessibleTab), true);
+    (void)accessible;
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     SetIsActive(false);
@@ -59,6 +104,8 @@ QString ucTab::Caption() const {
 
 void ucTab::SetCaption(const QString& value) try {
     m_label->setText(value);
+    QAccessibleEvent named(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&named);
     UserControl_Resize();
 } catch (...) {
     mError::PassOn("Let Caption");
@@ -69,7 +116,14 @@ bool ucTab::IsActive() const {
 }
 
 void ucTab::SetIsActive(bool value) try {
+    const bool changed = value != m_isActive;
     m_isActive = value;
+    if (changed) {
+        QAccessible::State selected;
+        selected.selected = true;
+        QAccessibleStateChangeEvent event(this, selected);
+        QAccessible::updateAccessibility(&event);
+    }
     m_label->move(kLabelLeft, LookOf(value).labelTop);
     update();
 } catch (...) {

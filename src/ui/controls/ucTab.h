@@ -1,7 +1,8 @@
 // One flat tab: a caption in a framed box that sizes its width to the caption. The active tab is drawn two
 // pixels higher with a thicker frame that runs past its lower edge, so it seems to join the page area below.
 // Hosts place a row of tabs (objectName "ucTab1_0", "ucTab1_1", ...) above a ucTabArea and switch pages on
-// Click; deactivating the other tabs is the host's task. All sizes are device-independent pixels.
+// Click; deactivating the other tabs is the host's task. All sizes are device-independent pixels. A screen
+// reader meets each tab as a page tab named by its caption, selected while active, that it can press.
 #pragma once
 
 #include <QRect>
@@ -47,6 +48,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    friend class ucTabAccessible;
+
     void UserControl_Resize();
     void Label1_Click();
     void UserControl_Click();

@@ -112,6 +112,7 @@ QWidget* frmError::CreateReportPage() {
     const QFontMetrics metrics(txtErrorNote->font());
     txtErrorNote->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('x')) * 64,
                                  metrics.lineSpacing() * 16);
+    lblNote->setBuddy(txtErrorNote);
     cmdContact = Button("cmdContact", page);
     ConnectEntryPoint(cmdContact, &QPushButton::clicked, this, &frmError::cmdContact_Click,
                       "frmError.cmdContact_Click");

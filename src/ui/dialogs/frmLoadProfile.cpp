@@ -9,6 +9,7 @@
 #include "error/mError.h"
 #include "profiles/Profiles.h"
 #include "ui/EntryPoint.h"
+#include "ui/controls/FieldNames.h"
 #include "ui/controls/ucProfiles.h"
 #include "ui/dialogs/MnemonicSet.h"
 
@@ -73,6 +74,7 @@ void frmLoadProfile::TranslateDialog() try {
     cmdHelp->setText(keys.Add(GlobalText("BTN_HELP")));
     cmdOk->setText(GlobalText("BTN_OK"));
     cmdCancel->setText(GlobalText("BTN_CANCEL"));
+    FieldNames::FollowLabels(*this);
 } catch (...) {
     mError::PassOn("frmLoadProfile.TranslateDialog");
 }

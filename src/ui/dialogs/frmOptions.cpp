@@ -12,6 +12,7 @@
 #include "error/mError.h"
 #include "ui/EntryPoint.h"
 #include "ui/QtText.h"
+#include "ui/controls/FieldNames.h"
 #include "ui/controls/ucPath.h"
 #include "ui/dialogs/MnemonicSet.h"
 
@@ -66,6 +67,7 @@ void frmOptions::TranslateDialog() try {
     ckSafetyPromptBeforeStartOfTarvolin->setText(keys.Add(ItemText("CHK_SHOW_STARTTARVOLINDIALOG")));
     cmdOk->setText(GlobalText("BTN_OK"));
     cmdCancel->setText(GlobalText("BTN_CANCEL"));
+    FieldNames::FollowLabels(*this);
 } catch (...) {
     mError::PassOn("frmOptions.TranslateDialog");
 }

@@ -8,6 +8,7 @@
 #include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "ui/EntryPoint.h"
+#include "ui/controls/FieldNames.h"
 #include "ui/controls/ucProfiles.h"
 
 frmProfiles::frmProfiles(QWidget* parent) : ModalDialog("frmProfiles", "PROFILES_DIALOG", parent) {
@@ -36,6 +37,8 @@ void frmProfiles::InitDialog() try {
 void frmProfiles::TranslateDialog() try {
     setWindowTitle(ItemText("DIALOG_CAPTION"));
     cmdClose->setText(GlobalText("BTN_CLOSE"));
+    // No label stands before the list: the window's title names it.
+    FieldNames::NameInside(*ucProfiles1, windowTitle());
 } catch (...) {
     mError::PassOn("frmProfiles.TranslateDialog");
 }

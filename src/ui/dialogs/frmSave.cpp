@@ -9,6 +9,7 @@
 #include "app/PublicObjects.h"
 #include "error/mError.h"
 #include "ui/EntryPoint.h"
+#include "ui/controls/FieldNames.h"
 #include "ui/controls/ucProfiles.h"
 #include "ui/dialogs/MnemonicSet.h"
 
@@ -53,6 +54,7 @@ void frmSave::TranslateDialog() try {
     lblListTitle->setText(keys.Add(ItemText("LBL_LIST_TITLE")));
     Command1->setText(keys.Add(GlobalText("BTN_YES")));
     Command2->setText(keys.Add(GlobalText("BTN_NO")));
+    FieldNames::FollowLabels(*this);
 } catch (...) {
     mError::PassOn("frmSave.TranslateDialog");
 }

@@ -80,6 +80,8 @@ void frmUpdate::TranslateDialog() try {
         keys.Add(Searching() ? GlobalText("BTN_CANCEL") : ItemText("BTN_SEARCH_UPDATES")));
     cmdOpenUpdatePage->setText(keys.Add(ItemText("BTN_OPEN_UPDATEPAGE")));
     cmdClose->setText(keys.Add(GlobalText("BTN_CLOSE")));
+    // The check's result is shown here; the window's title names it.
+    lblUpdateInfo->setAccessibleName(windowTitle());
 } catch (...) {
     mError::PassOn("frmUpdate.TranslateDialog");
 }

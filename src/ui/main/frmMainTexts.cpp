@@ -14,6 +14,7 @@
 #include "profiles/Profile.h"
 #include "translate/cTranslate.h"
 #include "ui/QtText.h"
+#include "ui/controls/FieldNames.h"
 #include "ui/controls/ucTab.h"
 #include "ui/dialogs/MnemonicSet.h"
 #include "ui/main/MainPage.h"
@@ -52,6 +53,7 @@ void frmMain::TranslatePages() {
         picPage[i]->Retranslate(keys);
     txtCommandLine->setAccessibleName(MainText("LBL_COMMANDLINE"));
     txtCommandLine->setToolTip(MainText("LBL_COMMANDLINE"));
+    FieldNames::FollowLabels(*this);
 }
 
 // The menu texts of the language files carry their own "&" letters.

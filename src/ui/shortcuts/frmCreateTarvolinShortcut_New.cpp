@@ -16,6 +16,7 @@
 #include "ui/EntryPoint.h"
 #include "ui/Named.h"
 #include "ui/QtText.h"
+#include "ui/controls/FieldNames.h"
 #include "ui/controls/ucPath.h"
 #include "ui/dialogs/MnemonicSet.h"
 #include "ui/shortcuts/ucWizard_Nav.h"
@@ -210,6 +211,7 @@ void frmCreateTarvolinShortcut_New::TranslateDialog() try {
     lblShortcutNameExample->setText(ItemText("LBL_SHORTCUT_NAME_EXAMPLE"));
     lblFinished->setText(ItemText("LBL_LINKCREATED"));
     ckCreateFurtherShortcut->setText(keys.Add(ItemText("CHK_CREATE_FURTHER_SHORTCUT")));
+    FieldNames::FollowLabels(*this);
 } catch (...) {
     mError::PassOn("frmCreateTarvolinShortcut_New.TranslateDialog");
 }

@@ -1,0 +1,83 @@
+// What a screen reader meets in every window of the program, through Qt's accessibility interface.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QAction>
+#include <QTabBar>
+
+#include "ui/dialogs/frmError.h"
+#include "ui/dialogs/frmLoadProfile.h"
+#include "ui/dialogs/frmSave.h"
+#include "ui/main/MainWindowFixture.h"
+#include "ui/shortcuts/ucWizard_Nav.h"
+
+namespace {
+
+// The focusable controls of `window` that a screen reader could not tell apart: each without a name or
+// with a role that says nothing of what it does, as "objectName: role" (or its class when it has no name).
+QStringList Silent(const QWidget& window) {
+    QStringList silent;
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        if (!control->isVisibleTo(&window) || !control->isEnabled() ||
+            !(control->focusPolicy() & Qt::TabFocus))
+            continue;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
+        const QAccessible::Role role = face != nullptr ? face->role() : QAccessible::NoRole;
+        const bool generic = role == QAccessible::NoRole || role == QAccessible::Client ||
+                             role == QAccessible::Pane || role == QAccessible::Grouping;
+        if (face == nullptr || face->text(QAccessible::Name).trimmed().isEmpty() || generic) {
+            const QString name = control->objectName().isEmpty()
+                                     ? QString::fromLatin1(control->metaObject()->className())
+                                     : control->objectName();
+            silent << QStringLiteral("%1 in %2: role %3")
+                          .arg(name, control->parentWidget() ? control->parentWidget()->objectName() : "")
+                          .arg(role, 0, 16);
+        }
+    }
+    return silent;
+}
+
+using AccessibilityTest = MainWindowFixture;
+
+TEST_F(AccessibilityTest, EveryFocusableControlIsNamedAndHasItsRole) {
+    QStringList silent;
+    for (int page = 0; page < frmMain::kTabCount; ++page) {
+        main->ucTab1_Click(page);
+        silent << Silent(*main);
+    }
+    // Every step of the wizard, every page of a window with tabs.
+    window = [&](QDialog& shown) {
+        silent << Silent(shown);
+        if (auto* steps = shown.findChild<ucWizard_Nav*>()) {
+            for (int16_t step = 2; step <= steps->PageCount(); ++step) {
+                steps->ShowPage(step);
+                silent << Silent(shown);
+            }
+        }
+        for (auto* tab : shown.findChildren<ucTab*>()) {
+            QAccessible::queryAccessibleInterface(tab)->actionInterface()->doAction(
+                QAccessibleActionInterface::pressAction());
+            silent << Silent(shown);
+        }
+    };
+    for (const char* command : {"mnuProfile_New", "mnuProfile_Edit", "mnuProfil_Manager", "mnuExtra_Options",
+                                "mnuExtra_Update", "mnuHelp_About", "mnuExtra_CreateShortcut"})
+        Menu(command)->trigger();
+    g_cApp->Options().SetShowStartTarvolinDialog(true);
+    Click("cmdStart");  // the start confirmation
+    frmError report(main);
+    report.InitDialog(ErrorReport{53, "File not found", "frmMain.cmdStart_Click", "the report"});
+    for (int page = 0; page < 2; ++page) {
+        Find<QTabBar>(report, "TabStrip1")->setCurrentIndex(page);
+        silent << Silent(report);
+    }
+    frmSave save(main);
+    save.InitDialog();
+    frmLoadProfile load(main);
+    load.InitDialog();
+    silent << Silent(save) << Silent(load);
+    silent.removeDuplicates();
+    EXPECT_TRUE(silent.isEmpty()) << silent.join(u'\n').toStdString();
+}
+
+}  // namespace
