@@ -80,4 +80,30 @@ TEST_F(AccessibilityTest, EveryFocusableControlIsNamedAndHasItsRole) {
     EXPECT_TRUE(silent.isEmpty()) << silent.join(u'\n').toStdString();
 }
 
+// A screen reader chooses as a click does: a pressed tab shows its page, a row selected in a list becomes the
+// current one (the preview and the command line follow), a row selected in a list box's popup is taken.
+TEST_F(AccessibilityTest, ChoosingThroughTheAccessibilityInterfaceActsLikeAClick) {
+    QAccessibleInterface* tab = QAccessible::queryAccessibleInterface(Control("ucTab1_2"));
+    EXPECT_EQ(tab->role(), QAccessible::PageTab);
+    tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(Control("picPage_3")->isVisible());
+    EXPECT_TRUE(tab->state().selected);
+    Control<QRadioButton>("opResolution_1")->setChecked(true);
+    QAccessible::queryAccessibleInterface(Control("lstResolution"))->tableInterface()->selectRow(2);
+    EXPECT_EQ(Control<QListWidget>("lstResolution")->currentRow(), 2);
+    EXPECT_TRUE(Control<QRadioButton>("opResolution_0")->isChecked());
+    EXPECT_EQ(Control<QLineEdit>("txtCommandLine")->text().toStdString(), "-log -res 3 -refresh 1");
+    QAccessible::queryAccessibleInterface(Control("lstRefresh"))->tableInterface()->selectRow(1);
+    EXPECT_EQ(Control<QLineEdit>("txtCommandLine")->text().toStdString(), "-log -res 3 -refresh 2");
+    QAccessibleInterface* paks = QAccessible::queryAccessibleInterface(Control("txtGraphicPack"));
+    QAccessibleInterface* popup = nullptr;
+    for (int i = 0; i < paks->childCount() && popup == nullptr; ++i) {
+        if (paks->child(i)->tableInterface() != nullptr)
+            popup = paks->child(i);
+    }
+    ASSERT_NE(popup, nullptr);
+    popup->tableInterface()->selectRow(0);
+    EXPECT_EQ(Control<QComboBox>("txtGraphicPack")->currentText().toStdString(), "pak128.pak");
+}
+
 }  // namespace

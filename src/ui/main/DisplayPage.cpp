@@ -16,6 +16,7 @@
 #include "mainwindow/frmMainRules.h"
 #include "ui/Named.h"
 #include "ui/QtText.h"
+#include "ui/controls/AccessibleChoice.h"
 #include "ui/dialogs/MnemonicSet.h"
 #include "ui/main/ucResolutionPreview.h"
 
@@ -28,6 +29,7 @@ DisplayPage::DisplayPage(QWidget* parent, Teller tellCorrection)
     lstResolution->setMaximumHeight(fontMetrics().lineSpacing() * 6);
     for (int i = 0; i < kListEntries; ++i)
         lstResolution->addItem(QString());
+    AccessibleChoice::Follow(*lstResolution);
     lblwidth_heigth = Named<QLabel>(frmResolution, QStringLiteral("lblwidth_heigth"));
     txtRes_Width = Named<QLineEdit>(frmResolution, QStringLiteral("txtRes_Width"));
     txtRes_Height = Named<QLineEdit>(frmResolution, QStringLiteral("txtRes_Height"));

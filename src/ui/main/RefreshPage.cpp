@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "ui/Named.h"
+#include "ui/controls/AccessibleChoice.h"
 #include "ui/dialogs/MnemonicSet.h"
 
 RefreshPage::RefreshPage(QWidget* parent) : MainPage(parent, 4) {
@@ -13,6 +14,7 @@ RefreshPage::RefreshPage(QWidget* parent) : MainPage(parent, 4) {
     lstRefresh->setMaximumHeight(fontMetrics().lineSpacing() * 6);
     for (int i = 0; i < kListEntries; ++i)
         lstRefresh->addItem(QString());
+    AccessibleChoice::Follow(*lstRefresh);
     auto* frame = new QVBoxLayout(frmScreenRefresh);
     frame->addWidget(lstRefresh);
     auto* layout = new QVBoxLayout(this);

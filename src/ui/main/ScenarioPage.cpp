@@ -9,6 +9,7 @@
 #include "mainwindow/frmMainLists.h"
 #include "ui/Named.h"
 #include "ui/QtText.h"
+#include "ui/controls/AccessibleChoice.h"
 #include "ui/dialogs/MnemonicSet.h"
 
 namespace {
@@ -18,6 +19,7 @@ QComboBox* EditableList(QWidget* parent, const char* name) {
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setModel(new QStringListModel(list));
+    AccessibleChoice::Follow(*list);
     return list;
 }
 
