@@ -1,7 +1,9 @@
 // The main window on each of its pages, showing a profile whose game folder has scenarios and graphic paks,
-// the shortcut wizard on each of its pages, and the about box.
+// the shortcut wizard on each of its pages, both again in a dark theme, and the about box.
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QPalette>
 
 #include "Scenes.h"
 #include "ScreenshotSession.h"
@@ -53,6 +55,52 @@ void RenderShortcutWizard(ScreenshotSession& session, const Profile& profile) {
     }
 }
 
+// The palette a dark desktop theme gives the program (GTK's Adwaita dark, through Qt's GTK theme).
+QPalette AdwaitaDark() {
+    QPalette dark(QColor(0x35, 0x35, 0x35));
+    const std::pair<QPalette::ColorRole, QRgb> roles[] = {{QPalette::Window, 0x353535},
+                                                          {QPalette::WindowText, 0xEEEEEC},
+                                                          {QPalette::Base, 0x2D2D2D},
+                                                          {QPalette::AlternateBase, 0x323232},
+                                                          {QPalette::Text, 0xEEEEEC},
+                                                          {QPalette::Button, 0x3A3A3A},
+                                                          {QPalette::ButtonText, 0xEEEEEC},
+                                                          {QPalette::Highlight, 0x15539E},
+                                                          {QPalette::HighlightedText, 0xFFFFFF},
+                                                          {QPalette::Link, 0x8AB4F8},
+                                                          {QPalette::Light, 0x4A4A4A},
+                                                          {QPalette::Midlight, 0x404040},
+                                                          {QPalette::Mid, 0x2A2A2A},
+                                                          {QPalette::Dark, 0x1E1E1E},
+                                                          {QPalette::Shadow, 0x101010}};
+    for (auto [role, colour] : roles)
+        dark.setColor(role, QColor::fromRgb(colour));
+    dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x91, 0x91, 0x91));
+    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(0x91, 0x91, 0x91));
+    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x91, 0x91, 0x91));
+    return dark;
+}
+
+// The main window's first and display pages and the wizard's first step in a dark theme: the drawn tabs,
+// the page area and the path field keep their light colours, and their texts stay readable on them.
+void RenderDarkTheme(ScreenshotSession& session, Profile& profile) {
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(AdwaitaDark());
+    {
+        frmMain window;
+        window.InitDialog();
+        window.LoadData(profile);
+        for (int page : {0, 2}) {
+            window.ucTab1_Click(page);
+            session.Save(window, QStringLiteral("frmMain_dark_%1").arg(page));
+        }
+        frmCreateTarvolinShortcut_New wizard;
+        wizard.InitDialog(profile);
+        session.Save(wizard, QStringLiteral("frmCreateTarvolinShortcut_New_dark_1"));
+    }
+    QApplication::setPalette(light);
+}
+
 }  // namespace
 
 void RenderMainWindow(ScreenshotSession& session) {
@@ -69,6 +117,7 @@ void RenderMainWindow(ScreenshotSession& session) {
         session.Save(window, QStringLiteral("frmMain_%1").arg(page));
     }
     RenderShortcutWizard(session, profile);
+    RenderDarkTheme(session, profile);
     frmInfo about;
     about.InitDialog();
     session.Save(about, QStringLiteral("frmInfo"));

@@ -13,6 +13,7 @@
 #include "error/mError.h"
 #include "ui/EntryPoint.h"
 #include "ui/QtText.h"
+#include "ui/controls/Contrast.h"
 
 namespace {
 
@@ -73,9 +74,7 @@ ucPath::ucPath(QWidget* parent) : QWidget(parent), m_txtPath(new QLineEdit(this)
     setSizePolicy(m_txtPath->sizePolicy());
     ConnectEntryPoint(m_txtPath, &QLineEdit::textChanged, this, &ucPath::txtPath_Change,
                       "ucPath.txtPath_Change");
-    QPalette palette = m_txtPath->palette();
-    palette.setColor(QPalette::Base, kDefaultBackColor);
-    m_txtPath->setPalette(palette);
+    SetBackColor(kDefaultBackColor);
 }
 
 QColor ucPath::BackColor() const {
@@ -83,9 +82,12 @@ QColor ucPath::BackColor() const {
                              [this] { return m_txtPath->palette().color(QPalette::Base); });
 }
 
+// The text takes black or white, whichever reads on the background: a dark theme's light text would all
+// but vanish on the white a field starts with.
 void ucPath::SetBackColor(const QColor& value) try {
     QPalette palette = m_txtPath->palette();
     palette.setColor(QPalette::Base, value);
+    palette.setColor(QPalette::Text, Contrast::Readable(value));
     m_txtPath->setPalette(palette);
 } catch (...) {
     mError::PassOn("ucPath.Let BackColor");

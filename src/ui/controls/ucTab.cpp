@@ -10,6 +10,7 @@
 #include <QStyleOptionFocusRect>
 
 #include "error/mError.h"
+#include "ui/controls/Contrast.h"
 #include "ui/controls/TabColours.h"
 
 namespace {
@@ -89,6 +90,9 @@ ucTab::ucTab(QWidget* parent) : QWidget(parent), m_label(new QLabel(kDefaultCapt
     m_label->setObjectName(QStringLiteral("Label1"));
     m_label->setTextFormat(Qt::PlainText);
     m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    QPalette own = palette();
+    Contrast::ReadableOn(own, TabColours::kFill);
+    setPalette(own);
     static const bool accessible = (QAccessible::installFactory(AccessibleTab), true);
     (void)accessible;
     setFocusPolicy(Qt::StrongFocus);

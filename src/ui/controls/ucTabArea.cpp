@@ -3,12 +3,21 @@
 #include <QPainter>
 
 #include "error/mError.h"
+#include "ui/controls/Contrast.h"
 #include "ui/controls/TabColours.h"
 
 ucTabArea::ucTabArea(QWidget* parent)
     : QWidget(parent), m_borderColor(TabColours::kBorder), m_backColor(TabColours::kFill) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_frame = QRect(QPoint(0, 0), size());
+    KeepTextReadable();
+}
+
+// The pages inside draw their texts on the fill, in the palette they inherit from the area.
+void ucTabArea::KeepTextReadable() {
+    QPalette own = palette();
+    Contrast::ReadableOn(own, m_backColor);
+    setPalette(own);
 }
 
 QColor ucTabArea::BorderColor() const {
@@ -28,6 +37,7 @@ QColor ucTabArea::BackColor() const {
 
 void ucTabArea::SetBackColor(const QColor& value) try {
     m_backColor = value;
+    KeepTextReadable();
     update();
 } catch (...) {
     mError::PassOn("Let BackColor");

@@ -1,5 +1,6 @@
 // The framed page area below a row of ucTab controls: one rectangle with a border and a fill colour that
-// follows the control's size. A zero width or height keeps the frame's previous extent in that direction.
+// follows the control's size. Text inside it takes black or white, whichever reads on the fill. A zero width
+// or height keeps the frame's previous extent in that direction.
 #pragma once
 
 #include <QColor>
@@ -30,6 +31,7 @@ protected:
 
 private:
     void UserControl_Resize();
+    void KeepTextReadable();
 
     QColor m_borderColor;
     QColor m_backColor;

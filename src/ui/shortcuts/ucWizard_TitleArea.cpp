@@ -26,6 +26,9 @@ ucWizard_TitleArea::ucWizard_TitleArea(QWidget* parent) : QWidget(parent) {
     texts->addWidget(lblStepDesc);
     texts->addWidget(lblStepTask);
     texts->addStretch();
+    // The texts stand on the base colour, so they take the text colour that goes with it.
+    for (QLabel* label : {lblStep, lblStepDesc, lblStepTask})
+        label->setForegroundRole(QPalette::Text);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
