@@ -62,7 +62,7 @@ TEST_F(AccessibilityTest, EveryFocusableControlIsNamedAndHasItsRole) {
     };
     for (const char* command : {"mnuProfile_New", "mnuProfile_Edit", "mnuProfil_Manager", "mnuExtra_Options",
                                 "mnuExtra_Update", "mnuHelp_About", "mnuExtra_CreateShortcut"})
-        Menu(command)->trigger();
+        Choose(command);
     g_cApp->Options().SetShowStartTarvolinDialog(true);
     Click("cmdStart");  // the start confirmation
     frmError report(main);

@@ -289,6 +289,9 @@ void frmMain::ConnectCommands() {
         {mnuHelp_Webpage, &frmMain::mnuHelp_Webpage_Click, "frmMain.mnuHelp_Webpage_Click"},
         // Its report has always carried the name of the profile list's handler.
         {mnuHelp_About, &frmMain::mnuHelp_About_Click, "frmMain.mnuProfil_Manager_Click"}};
+    // A menu command runs once the menu has handed over: a screen reader presses a menu entry and waits
+    // for the press to return, which a command that opens a window would otherwise hold until the window
+    // closes (buttons are pressed that way already).
     for (const auto& [action, handler, trail] : actions)
-        ConnectEntryPoint(action, &QAction::triggered, this, handler, trail);
+        ConnectEntryPoint(action, &QAction::triggered, this, handler, trail, Qt::QueuedConnection);
 }

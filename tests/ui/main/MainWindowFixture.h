@@ -91,6 +91,11 @@ protected:
         profiles->hide();
         return main->findChild<QAction*>(name);
     }
+    // Chooses the menu entry `name` and lets its command run, which it does once the menu has handed over.
+    void Choose(const char* name) const {
+        Menu(name)->trigger();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    }
     Profile& Active() const { return *g_cApp->ActiveProfile(); }
     void Type(const char* field, const QString& text) {
         auto* edit = Control<QLineEdit>(field);

@@ -157,7 +157,7 @@ TEST_F(frmMainTest, ProfileMenuSwitchesAndKeepsTheEdits) {
         Find<QLineEdit>(shown, "txtDescription")->setText("fast");
         Find(shown, "cmdOk")->click();
     };
-    Menu("mnuProfile_New")->trigger();
+    Choose("mnuProfile_New");
     EXPECT_EQ(Active().ProfileName(), "profile_Race");
     EXPECT_EQ(Active().TarvolinPath(), "");
     EXPECT_EQ(boxes, QStringList{Message("ERROR_MESSAGES", "ERR_TarvolinFolderNotDefined")});
@@ -201,7 +201,7 @@ TEST_F(frmMainTest, ABrokenLanguageFileLeavesTheEnglishTexts) {
 }
 
 TEST_F(frmMainTest, CommandsReachTheClipboardAndTheShell) {
-    Menu("mnuEditCopy_CmdLine")->trigger();
+    Choose("mnuEditCopy_CmdLine");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QtText::ToQt(game) + "-log -res 1 -refresh 1");
     Click("cmdOpenTarvoDir");
     ASSERT_EQ(platform.calls.size(), 1u);
@@ -221,9 +221,9 @@ TEST_F(frmMainTest, CommandsReachTheClipboardAndTheShell) {
         const auto* target = dialog.findChild<ucPath*>("txtDest");
         shown += dialog.objectName() + (target ? ": " + target->Text() : "") + "\n";
     };
-    Menu("mnuExtra_CreateShortcut")->trigger();
+    Choose("mnuExtra_CreateShortcut");
     EXPECT_TRUE(Active().Freeplay());
-    Menu("mnuExtra_Update")->trigger();
+    Choose("mnuExtra_Update");
     EXPECT_EQ(shown, "frmCreateTarvolinShortcut_New: " + QtText::ToQt(game) + "\nfrmUpdate\n");
 }
 
