@@ -13,18 +13,10 @@
 
 namespace {
 
-// The palette a dark desktop theme gives (GTK's Adwaita dark).
+// The palette a dark desktop theme gives (GTK's Adwaita dark): light text on dark grey.
 QPalette Dark() {
-    QPalette dark;
-    for (auto [role, colour] : {std::pair{QPalette::Window, 0x353535},
-                                {QPalette::WindowText, 0xEEEEEC},
-                                {QPalette::Base, 0x2D2D2D},
-                                {QPalette::Text, 0xEEEEEC},
-                                {QPalette::Button, 0x353535},
-                                {QPalette::ButtonText, 0xEEEEEC},
-                                {QPalette::Link, 0x8AB4F8}})
-        dark.setColor(role, QColor::fromRgb(static_cast<QRgb>(colour)));
-    return dark;
+    return QPalette(QColor(0xEEEEEC), QColor(0x353535), QColor(0x4A4A4A), QColor(0x1E1E1E), QColor(0x2A2A2A),
+                    QColor(0xEEEEEC), QColor(0x2D2D2D));
 }
 
 // The ratio between the colour at `background` and the pixel in `area` that stands out most from it:
@@ -43,8 +35,6 @@ double TextContrast(QWidget& widget, const QRect& area, QPoint background) {
 TEST(ContrastTest, RatioIsTheGuidelinesOne) {
     EXPECT_NEAR(Contrast::Ratio(Qt::black, Qt::white), 21.0, 1e-9);
     EXPECT_NEAR(Contrast::Ratio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
-    EXPECT_EQ(Contrast::Readable(QColor(0xE0, 0xE0, 0xE0)), QColor(Qt::black));
-    EXPECT_EQ(Contrast::Readable(QColor(0x35, 0x35, 0x35)), QColor(Qt::white));
 }
 
 // A tab's caption, a text on the page area, a path field's text and the wizard's step title.
