@@ -1,53 +1,23 @@
 #include "ui/dialogs/MnemonicSet.h"
 
-// The position of the letter or digit behind a single "&", or -1; "&&" is a literal ampersand.
-qsizetype MnemonicSet::ExistingMnemonic(const QString& text) {
-    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != u'&')
-            continue;
-        if (text[i + 1].isLetterOrNumber())
-            return i + 1;
-        if (text[i + 1] == u'&')
-            ++i;
-    }
-    return -1;
+namespace {
+
+bool IsLetterOrDigit(char32_t code) {
+    return QChar::isLetterOrNumber(code);
 }
 
-qsizetype MnemonicSet::FreeLetter(const QString& text) const {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i].isLetterOrNumber() && !m_taken.contains(text[i].toLower()))
-            return i;
-    }
-    return -1;
+char32_t Lower(char32_t code) {
+    return QChar::toLower(code);
 }
+
+}  // namespace
+
+MnemonicSet::MnemonicSet() : m_keys(Mnemonics::Alphabet{IsLetterOrDigit, Lower}) {}
 
 QString MnemonicSet::Add(const QString& text) {
-    const qsizetype existing = ExistingMnemonic(text);
-    if (existing >= 0) {
-        m_taken += text[existing].toLower();
-        m_marked.insert(text, text);
-        return text;
-    }
-    const qsizetype letter = FreeLetter(text);
-    if (letter >= 0)
-        m_taken += text[letter].toLower();
-    QString marked;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (i == letter)
-            marked += u'&';
-        if (text[i] != u'&') {
-            marked += text[i];
-            continue;
-        }
-        marked += QStringLiteral("&&");
-        if (i + 1 < text.size() && text[i + 1] == u'&')
-            ++i;
-    }
-    m_marked.insert(text, marked);
-    return marked;
+    return QString::fromStdString(m_keys.Add(text.toStdString()));
 }
 
 QString MnemonicSet::Again(const QString& text) {
-    const auto marked = m_marked.constFind(text);
-    return marked != m_marked.cend() ? *marked : Add(text);
+    return QString::fromStdString(m_keys.Again(text.toStdString()));
 }
