@@ -112,8 +112,12 @@ void frmMain::ShowProfileList() {
     if (m_profileListShown)
         return;
     ShowBuiltItems(mnuProfile_List, frmMainLists::ProfileMenuItems(App().Profiles(), App().ActiveProfile()),
-                   mnuFile_Profiles, QStringLiteral("mnuProfile_List"),
-                   [this](int index) { mnuProfile_List_Click(index); });
+                   mnuFile_Profiles, QStringLiteral("mnuProfile_List"), [this](int index) {
+                       // Like the other menu commands it runs once the menu has handed over: a switch
+                       // may have to ask or report, and a screen reader's press must not wait for that.
+                       QMetaObject::invokeMethod(
+                           this, [this, index] { mnuProfile_List_Click(index); }, Qt::QueuedConnection);
+                   });
     m_profileListShown = true;
 }
 

@@ -143,7 +143,7 @@ TEST_F(frmMainTest, ClosingAsksWhetherToSaveAndTheNextStartLaunchesWhatWasSaved)
 
 TEST_F(frmMainTest, ProfileMenuSwitchesAndKeepsTheEdits) {
     Control<QCheckBox>("ckFreeplay")->setChecked(true);
-    Menu("mnuProfile_List_1")->trigger();
+    Choose("mnuProfile_List_1");
     EXPECT_EQ(Active().ProfileName(), "profile_B");
     EXPECT_TRUE(g_cApp->Profiles().Item("profile_A").Freeplay());
     EXPECT_TRUE(Menu("mnuProfile_List_1")->isChecked() && !Menu("mnuProfile_List_0")->isChecked());
