@@ -88,6 +88,10 @@ ResolutionCorrection CorrectInput(const MainWindowValues& values) {
     return correction;
 }
 
+bool TypesIntoResolutionField(int character) {
+    return (character >= 0x20 || character == 8) && character != 0x7F;
+}
+
 bool IsResolutionKey(int keyAscii) {
     return (keyAscii >= '0' && keyAscii <= '9') || keyAscii == 8;
 }

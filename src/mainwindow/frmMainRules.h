@@ -41,6 +41,9 @@ ResolutionCorrection CorrectInput(const MainWindowValues& values);
 
 // True for the keys a resolution field takes: the digits and backspace.
 bool IsResolutionKey(int keyAscii);
+// True for a character that types into a resolution field, which chooses the user-defined mode: any
+// printable character and backspace. Tab, Enter, the other control characters and Delete type nothing.
+bool TypesIntoResolutionField(int character);
 
 // What the preview shows for a standard resolution's ID; nothing for no standard resolution.
 struct PreviewResolution {

@@ -103,6 +103,9 @@ TEST(frmMainCorrectInput, RaisesSmallNumbersToTheMinimum) {
 TEST(frmMainRulesTest, SmallRules) {
     EXPECT_TRUE(frmMainRules::IsResolutionKey('5') && frmMainRules::IsResolutionKey(8));
     EXPECT_FALSE(frmMainRules::IsResolutionKey('a') || frmMainRules::IsResolutionKey('-'));
+    EXPECT_TRUE(frmMainRules::TypesIntoResolutionField('a') && frmMainRules::TypesIntoResolutionField(8));
+    EXPECT_FALSE(frmMainRules::TypesIntoResolutionField('\t') ||
+                 frmMainRules::TypesIntoResolutionField(0x7F));
     EXPECT_FALSE(frmMainRules::PreviewFor(0) || frmMainRules::PreviewFor(6));
     const auto window = frmMainRules::PreviewFor(5);
     ASSERT_TRUE(window);

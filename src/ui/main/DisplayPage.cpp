@@ -150,9 +150,7 @@ void DisplayPage::Form_Load() {
 // Keys that type nothing (Tab, the arrows, Delete) pass as they always do.
 bool DisplayPage::ResolutionField_KeyPress(const QKeyEvent& event) {
     const QString text = event.text();
-    const bool typing = !text.isEmpty() && (text.at(0).unicode() >= 0x20 || text.at(0).unicode() == 8) &&
-                        text.at(0).unicode() != 0x7F;
-    if (!typing)
+    if (text.isEmpty() || !frmMainRules::TypesIntoResolutionField(text.at(0).unicode()))
         return false;
     opResolution[1]->setChecked(true);
     return !frmMainRules::IsResolutionKey(text.at(0).unicode());
