@@ -2,10 +2,10 @@
 
 #include <QLinearGradient>
 #include <QPainter>
-#include <cmath>
 
 #include "base/mString.h"
 #include "error/mError.h"
+#include "mainwindow/PreviewLayout.h"
 
 namespace {
 
@@ -13,17 +13,13 @@ namespace {
 const QString kSamplePicturePath = QStringLiteral(":/pavonel/main/SamplePicture.png");
 constexpr qreal kSamplePictureScale = 2.0;
 
-// The resolution at which the picture shows at its natural size, and the share of the control that the
-// picture fills in window look.
-constexpr double kNaturalWidthAt = 640.0;
-constexpr double kNaturalHeightAt = 480.0;
-constexpr double kWindowShare = 0.6;
+QRect ToQt(const PreviewLayout::Box& box) {
+    return QRect(box.left, box.top, box.width, box.height);
+}
 
-const QColor kScreenColor(0x1B, 0x23, 0x2E);
-const QColor kScreenEdgeColor(0x5A, 0x63, 0x6E);
-const QColor kWindowColor(0xD4, 0xD0, 0xC8);
-const QColor kTitleColor(0x0A, 0x24, 0x6A);
-const QColor kTitleFadeColor(0xA6, 0xCA, 0xF0);
+QColor Colour(uint32_t rgb) {
+    return QColor::fromRgb(static_cast<QRgb>(rgb));
+}
 
 }  // namespace
 
@@ -68,13 +64,16 @@ void ucResolutionPreview::SetResolution(int16_t width, int16_t height, bool wind
 }
 
 void ucResolutionPreview::DrawImage() try {
-    if (m_picture.isNull() || !(m_windowLook || (m_width > 0 && m_height > 0)))
+    if (m_picture.isNull())
         return;
-    const QRect image = ImageRectFor(m_width, m_height, m_windowLook);
+    const auto layout = PreviewLayout::For({0, 0, width(), height()}, {0, 0, m_naturalWidth, m_naturalHeight},
+                                           m_width, m_height, m_windowLook);
+    if (!layout)
+        return;
     m_shapesVisible = m_windowLook;
-    m_image = image;
-    m_shape2 = QRect(image.left() - 2, image.top() - 6, image.width() + 4, 5);
-    m_shape1 = QRect(image.left() - 2, image.top() - 2, image.width() + 4, image.height() + 4);
+    m_image = ToQt(layout->image);
+    m_shape2 = ToQt(layout->titleBar);
+    m_shape1 = ToQt(layout->frame);
     update();
 } catch (...) {
     mError::ShowError("ucResolutionPreview.DrawImage");
@@ -86,8 +85,8 @@ QSize ucResolutionPreview::sizeHint() const {
 
 void ucResolutionPreview::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), kScreenColor);
-    painter.setPen(kScreenEdgeColor);
+    painter.fillRect(rect(), Colour(PreviewLayout::kScreen));
+    painter.setPen(Colour(PreviewLayout::kScreenEdge));
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     if (m_picture.isNull())
         return;
@@ -102,23 +101,10 @@ void ucResolutionPreview::resizeEvent(QResizeEvent* event) {
     DrawImage();
 }
 
-// The picture's size for a resolution: scaled against 640 x 480, or a share of the control in window look.
-QRect ucResolutionPreview::ImageRectFor(int16_t width, int16_t height, bool windowLook) const {
-    const int16_t imageWidth = windowLook
-                                   ? mString::RoundToInt16(this->width() * kWindowShare)
-                                   : mString::RoundToInt16(m_naturalWidth / double(width) * kNaturalWidthAt);
-    const int16_t imageHeight =
-        windowLook ? mString::RoundToInt16(this->height() * kWindowShare)
-                   : mString::RoundToInt16(m_naturalHeight / double(height) * kNaturalHeightAt);
-    const int16_t left = mString::RoundToInt16((this->width() - imageWidth) / 2.0);
-    const int16_t top = mString::RoundToInt16((this->height() - imageHeight) / 2.0);
-    return QRect(left, top, imageWidth, imageHeight);
-}
-
 void ucResolutionPreview::PaintWindowLook(QPainter& painter) const {
-    painter.fillRect(m_shape1, kWindowColor);
+    painter.fillRect(m_shape1, Colour(PreviewLayout::kWindow));
     QLinearGradient title(m_shape2.topLeft(), m_shape2.topRight());
-    title.setColorAt(0.0, kTitleColor);
-    title.setColorAt(1.0, kTitleFadeColor);
+    title.setColorAt(0.0, Colour(PreviewLayout::kTitle));
+    title.setColorAt(1.0, Colour(PreviewLayout::kTitleFade));
     painter.fillRect(m_shape2, title);
 }

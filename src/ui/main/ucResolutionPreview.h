@@ -43,7 +43,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QRect ImageRectFor(int16_t width, int16_t height, bool windowLook) const;
     void PaintWindowLook(QPainter& painter) const;
 
     QPixmap m_picture;
