@@ -13,6 +13,7 @@
 
 #include <QMainWindow>
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -112,6 +113,8 @@ private:
     bool Form_QueryUnload();
     void Form_Unload();
     void ConnectCommands();
+    void Queue(std::function<void()> command, const char* trail);
+    void Queue(void (frmMain::*handler)(), const char* trail);
     // Tells the user that changes could not be saved; while the program ends on request nobody could
     // answer a window, so the message goes to the standard error output instead.
     void TellUnsaved(platform::WriteFault fault) const;
@@ -172,4 +175,5 @@ private:
 
     bool m_profileListShown = false;  // the profile menu's items show the profiles as they are
     bool m_ending = false;            // EndOnRequest is ending the program: no questions, no messages
+    bool m_unloaded = false;          // Form_Unload ran: the program-wide objects are closed
 };

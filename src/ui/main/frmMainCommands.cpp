@@ -115,12 +115,10 @@ void frmMain::mnuProfile_Edit_Click() {
 }
 
 // The edits of the profile shown so far stay with it before the other one is shown.
-void frmMain::mnuProfile_List_Click(int index) try {
+void frmMain::mnuProfile_List_Click(int index) {
     RefreshProfileData();
     const std::string name = QtText::FromQt(mnuProfile_List[index]->data().toString());
     LoadData(App().Profiles().Item(name));
-} catch (...) {
-    mError::ShowError("frmMain.mnuProfile_List_Click");
 }
 
 void frmMain::mnuProfil_Manager_Click() {
@@ -212,6 +210,7 @@ bool frmMain::Form_QueryUnload() {
 // The options are told about only when they were changed: the version stamps written with them are no
 // change of the user's, and a settings file kept read-only on purpose must not raise a message each time.
 void frmMain::Form_Unload() try {
+    m_unloaded = true;
     const bool optionsChanged = App().Options().DataChanged();
     const platform::WriteFault fault = App().SaveAppSettings();
     if (optionsChanged)
@@ -235,6 +234,23 @@ void frmMain::EndOnRequest() {
         mError::ShowError("frmMain.EndOnRequest");
     }
     close();
+}
+
+// A menu command runs once the menu has handed over: a screen reader presses a menu entry and waits for the
+// press to return, which a command that opens a window would otherwise hold until the window closes
+// (buttons are pressed that way already). A command still waiting when the window has closed is dropped.
+void frmMain::Queue(std::function<void()> command, const char* trail) {
+    QMetaObject::invokeMethod(
+        this,
+        [this, command = std::move(command), trail] {
+            if (!m_unloaded)
+                mError::AsEntryPoint(trail, command);
+        },
+        Qt::QueuedConnection);
+}
+
+void frmMain::Queue(void (frmMain::*handler)(), const char* trail) {
+    Queue([this, handler] { (this->*handler)(); }, trail);
 }
 
 void frmMain::TellUnsaved(platform::WriteFault fault) const {
@@ -289,9 +305,6 @@ void frmMain::ConnectCommands() {
         {mnuHelp_Webpage, &frmMain::mnuHelp_Webpage_Click, "frmMain.mnuHelp_Webpage_Click"},
         // Its report has always carried the name of the profile list's handler.
         {mnuHelp_About, &frmMain::mnuHelp_About_Click, "frmMain.mnuProfil_Manager_Click"}};
-    // A menu command runs once the menu has handed over: a screen reader presses a menu entry and waits
-    // for the press to return, which a command that opens a window would otherwise hold until the window
-    // closes (buttons are pressed that way already).
     for (const auto& [action, handler, trail] : actions)
-        ConnectEntryPoint(action, &QAction::triggered, this, handler, trail, Qt::QueuedConnection);
+        connect(action, &QAction::triggered, this, [this, handler, trail] { Queue(handler, trail); });
 }

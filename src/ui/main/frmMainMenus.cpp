@@ -113,10 +113,9 @@ void frmMain::ShowProfileList() {
         return;
     ShowBuiltItems(mnuProfile_List, frmMainLists::ProfileMenuItems(App().Profiles(), App().ActiveProfile()),
                    mnuFile_Profiles, QStringLiteral("mnuProfile_List"), [this](int index) {
-                       // Like the other menu commands it runs once the menu has handed over: a switch
-                       // may have to ask or report, and a screen reader's press must not wait for that.
-                       QMetaObject::invokeMethod(
-                           this, [this, index] { mnuProfile_List_Click(index); }, Qt::QueuedConnection);
+                       // A switch may have to ask or report: it runs as the other menu commands do.
+                       Queue([this, index] { mnuProfile_List_Click(index); },
+                             "frmMain.mnuProfile_List_Click");
                    });
     m_profileListShown = true;
 }

@@ -237,6 +237,21 @@ TEST_F(frmMainTest, ClosingWithNoSavesNoProfile) {
     EXPECT_NE(saved.find("FILEVERSION=1.1"), std::string::npos);
 }
 
+// A menu command that still waits to run when the window closes is dropped: by then the program-wide
+// objects it would use are gone.
+TEST_F(frmMainTest, ACommandStillWaitingWhenTheWindowClosesIsDropped) {
+    QStringList opened;
+    window = [&opened](QDialog& shown) { opened << shown.objectName(); };
+    Menu("mnuExtra_Options")->trigger();
+    buttons = {QMessageBox::No};
+    ASSERT_TRUE(main->close());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    EXPECT_TRUE(opened.isEmpty()) << opened.join(u' ').toStdString();
+    EXPECT_TRUE(reports.isEmpty());
+    main = nullptr;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 // A save that cannot reach the file says so, naming the file and why, once per attempt: Yes keeps the window
 // open with the profile still changed, so the question comes again; No then closes, telling that the
 // changed options were not kept either.
