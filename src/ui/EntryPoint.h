@@ -9,11 +9,8 @@
 // Connects `signal` of `sender` to `handler` of `receiver`; a failure is reported under `trail`.
 template <class Sender, class Signal, class Receiver, class... Args>
 void ConnectEntryPoint(Sender* sender, Signal signal, Receiver* receiver, void (Receiver::*handler)(Args...),
-                       const char* trail, Qt::ConnectionType type = Qt::AutoConnection) {
-    QObject::connect(
-        sender, signal, receiver,
-        [receiver, handler, trail](Args... args) {
-            mError::AsEntryPoint(trail, [&] { (receiver->*handler)(args...); });
-        },
-        type);
+                       const char* trail) {
+    QObject::connect(sender, signal, receiver, [receiver, handler, trail](Args... args) {
+        mError::AsEntryPoint(trail, [&] { (receiver->*handler)(args...); });
+    });
 }
