@@ -98,9 +98,14 @@ void DisplayPage::ShowValues(const MainWindowValues& values) {
     txtRes_Height->setText(QtText::ToQt(values.height));
 }
 
+// The chosen standard resolution's ID, 0 without a choice.
+int DisplayPage::Resolution() const {
+    return lstResolution->currentRow() + 1;
+}
+
 void DisplayPage::HandBack(MainWindowValues& values) const {
     values.standardResolution = opResolution[0]->isChecked();
-    values.resolution = lstResolution->currentRow() + 1;
+    values.resolution = Resolution();
     values.width = QtText::FromQt(txtRes_Width->text());
     values.height = QtText::FromQt(txtRes_Height->text());
 }
@@ -132,7 +137,7 @@ void DisplayPage::lstResolution_Click() {
 }
 
 void DisplayPage::ShowPreview() {
-    if (const auto preview = frmMainRules::PreviewFor(lstResolution->currentRow() + 1))
+    if (const auto preview = frmMainRules::PreviewFor(Resolution()))
         UserControl11->SetResolution(preview->width, preview->height, preview->fillArea);
 }
 

@@ -47,6 +47,7 @@ private:
     void BuildLayout();
     void ConnectFields();
     void Form_Load();
+    int Resolution() const;
     void ShowPreview();
     bool ResolutionField_KeyPress(const QKeyEvent& event);
 

@@ -81,7 +81,6 @@ private:
 
     // Binding (frmMainBinding.cpp).
     MainWindowValues Values() const;
-    void CheckData();
     void TellCorrection(const char* key, QWidget* focus);
     void ControlChanged(const char* procedure);
     void ShowCommandLine();

@@ -48,11 +48,12 @@ bool frmMain::LoadData(Profile& profile) try {
 
 void frmMain::RefreshProfileData() try {
     m_display->CorrectInput();
-    CheckData();
     const MainWindowValues values = Values();
+    frmMainRules::CheckData(values);
     Profile& profile = *App().ActiveProfile();
     frmMainRules::WriteInto(values, profile);
-    frmMainRules::CompareCommandLines(GetCmdLineParameters(), profile.GetCmdLineParameters());
+    frmMainRules::CompareCommandLines(frmMainRules::GetCmdLineParameters(values),
+                                      profile.GetCmdLineParameters());
 } catch (...) {
     mError::PassOn("frmMain.RefreshProfileData");
 }
@@ -66,10 +67,6 @@ platform::WriteFault frmMain::SaveData() try {
 
 std::string frmMain::GetCmdLineParameters() const {
     return frmMainRules::GetCmdLineParameters(Values());
-}
-
-void frmMain::CheckData() {
-    frmMainRules::CheckData(Values());
 }
 
 // Shows the display page and says what was corrected; nobody is told while the program ends on request.
