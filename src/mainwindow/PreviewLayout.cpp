@@ -4,7 +4,7 @@
 
 namespace PreviewLayout {
 
-std::optional<Layout> For(Box control, Box natural, int16_t width, int16_t height, bool windowLook) {
+std::optional<Layout> For(Size control, Size natural, int16_t width, int16_t height, bool windowLook) {
     if (!windowLook && (width <= 0 || height <= 0))
         return std::nullopt;
     const int16_t imageWidth = windowLook

@@ -22,12 +22,16 @@ inline constexpr uint32_t kWindow = 0xD4D0C8;
 inline constexpr uint32_t kTitle = 0x0A246A;
 inline constexpr uint32_t kTitleFade = 0xA6CAF0;
 
+struct Size {
+    int width = 0;
+    int height = 0;
+};
+
 struct Box {
     int left = 0;
     int top = 0;
     int width = 0;
     int height = 0;
-    bool operator==(const Box&) const = default;
 };
 
 struct Layout {
@@ -39,6 +43,6 @@ struct Layout {
 // The layout in a control of `control` size for a picture of `natural` size showing a `width` x `height`
 // resolution, or in window look: the picture scaled against 640 x 480, or 60 % of the control, centred.
 // Nothing for a resolution that is not above 0 in both directions outside window look.
-std::optional<Layout> For(Box control, Box natural, int16_t width, int16_t height, bool windowLook);
+std::optional<Layout> For(Size control, Size natural, int16_t width, int16_t height, bool windowLook);
 
 }  // namespace PreviewLayout

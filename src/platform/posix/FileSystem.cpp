@@ -199,11 +199,11 @@ std::vector<std::string> NamesIn(const std::string& folder, bool folders) {
         const std::string_view name = entry->d_name;
         if (name == "." || name == "..")
             continue;
-        bool folder = entry->d_type == DT_DIR;
+        bool isFolder = entry->d_type == DT_DIR;
         struct stat target {};
         if (entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN)
-            folder = fstatat(dirfd(listing), entry->d_name, &target, 0) == 0 && S_ISDIR(target.st_mode);
-        if (folder == folders)
+            isFolder = fstatat(dirfd(listing), entry->d_name, &target, 0) == 0 && S_ISDIR(target.st_mode);
+        if (isFolder == folders)
             names.emplace_back(name);
     }
     closedir(listing);

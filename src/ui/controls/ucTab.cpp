@@ -43,8 +43,6 @@ bool IsActivationKey(const QKeyEvent* event) {
     return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-QAccessibleInterface* AccessibleTab(const QString& /*className*/, QObject* object);
-
 }  // namespace
 
 // What a screen reader meets of a tab: a page tab with the caption as its name, selected while it is the

@@ -66,8 +66,8 @@ void ucResolutionPreview::SetResolution(int16_t width, int16_t height, bool wind
 void ucResolutionPreview::DrawImage() try {
     if (m_picture.isNull())
         return;
-    const auto layout = PreviewLayout::For({0, 0, width(), height()}, {0, 0, m_naturalWidth, m_naturalHeight},
-                                           m_width, m_height, m_windowLook);
+    const auto layout = PreviewLayout::For({width(), height()}, {m_naturalWidth, m_naturalHeight}, m_width,
+                                           m_height, m_windowLook);
     if (!layout)
         return;
     m_shapesVisible = m_windowLook;
