@@ -77,6 +77,9 @@ TEST_F(AccessibilityTest, EveryFocusableControlIsNamedAndHasItsRole) {
 // A screen reader chooses as a click does: a pressed tab shows its page, a row selected in a list becomes the
 // current one (the preview and the command line follow), a row selected in a list box's popup is taken.
 TEST_F(AccessibilityTest, ChoosingThroughTheAccessibilityInterfaceActsLikeAClick) {
+    // The path field's text box speaks its label, without the mnemonic's mark.
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(Control("txtPath"))->text(QAccessible::Name),
+              Control<QLabel>("lblTarvoPath")->text().remove(u'&'));
     QAccessibleInterface* tab = QAccessible::queryAccessibleInterface(Control("ucTab1_2"));
     EXPECT_EQ(tab->role(), QAccessible::PageTab);
     tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
