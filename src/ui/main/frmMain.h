@@ -108,7 +108,6 @@ private:
     void mnuHelp_FAQ_EN_Click();
     void mnuHelp_Webpage_Click();
     void mnuHelp_About_Click();
-    void OpenLogFile();
     bool Form_QueryUnload();
     void Form_Unload();
     void ConnectCommands();

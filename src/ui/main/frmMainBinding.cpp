@@ -4,9 +4,8 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/UserInterface.h"
-#include "app/mMain.h"
-#include "app/mPath.h"
 #include "error/mError.h"
+#include "mainwindow/frmMainCommands.h"
 #include "mainwindow/frmMainRules.h"
 #include "profiles/Profile.h"
 #include "translate/cTranslate.h"
@@ -24,14 +23,7 @@ MainWindowValues frmMain::Values() const {
 
 bool frmMain::LoadData(Profile& profile) try {
     App().SetActiveProfile(&profile);
-    if (profile.TarvolinPath().empty()) {
-        // A cancelled chooser hands back its proposal, which is no game: only an existing file is one.
-        const std::string chosen = mMain::AskForTarvoPath("");
-        if (!mPath::FileExists(chosen))
-            Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinFolderNotDefined"), vbOKOnly);
-        else
-            profile.SetTarvolinPath(chosen);
-    }
+    frmMainCommands::AskForMissingGame(profile);
     const MainWindowValues values = frmMainRules::ValuesOf(profile);
     for (int i = 1; i <= kTabCount; ++i)
         picPage[i]->ShowValues(values);
@@ -48,12 +40,7 @@ bool frmMain::LoadData(Profile& profile) try {
 
 void frmMain::RefreshProfileData() try {
     m_display->CorrectInput();
-    const MainWindowValues values = Values();
-    frmMainRules::CheckData(values);
-    Profile& profile = *App().ActiveProfile();
-    frmMainRules::WriteInto(values, profile);
-    frmMainRules::CompareCommandLines(frmMainRules::GetCmdLineParameters(values),
-                                      profile.GetCmdLineParameters());
+    frmMainCommands::WriteBack(Values(), *App().ActiveProfile());
 } catch (...) {
     mError::PassOn("frmMain.RefreshProfileData");
 }

@@ -5,14 +5,14 @@
 #include <QCloseEvent>
 #include <QPushButton>
 #include <iostream>
+#include <optional>
 #include <tuple>
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/UserInterface.h"
-#include "app/mMain.h"
-#include "app/mPath.h"
 #include "error/mError.h"
+#include "mainwindow/frmMainCommands.h"
 #include "mainwindow/frmMainRules.h"
 #include "platform/Platform.h"
 #include "profiles/Profile.h"
@@ -36,10 +36,6 @@ int64_t Owner(const QWidget* window) {
     return static_cast<int64_t>(window->winId());
 }
 
-std::string MainText(const char* key) {
-    return Translator().TranslateEx("MAIN_DIALOG", key);
-}
-
 }  // namespace
 
 void frmMain::cmdStart_Click() {
@@ -47,45 +43,24 @@ void frmMain::cmdStart_Click() {
     App().ActiveProfile()->StartTarvolin(Owner(this));
 }
 
-// Asks for an editor first when none is set; opens the log file in it, unquoted, as it always has.
-void frmMain::OpenLogFile() {
-    Options& options = App().Options();
-    if (options.EditorPath().empty() &&
-        Ui().MsgBox(MainText("MSG_SelectTextEditor"), vbYesNo | vbQuestion) == vbYes)
-        options.SetEditorPath(mMain::AskForEditorPath(options.EditorPath()));
-    if (options.EditorPath().empty())
-        return;
-    const std::string log = frmMainRules::LogFilePath(App().ActiveProfile()->TarvolinPath());
-    if (mPath::FileExists(log))
-        Os().ShellExec(Owner(this), "open", options.EditorPath(), log, "", kSwShowNormal);
-    else
-        Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_TarvolinLogfileNotFound"), vbInformation);
-}
-
 void frmMain::cmdLogfile_Click() {
-    OpenLogFile();
+    frmMainCommands::OpenLogFile(Owner(this));
 }
 
 void frmMain::cmdLogfile2_Click() {
-    OpenLogFile();
+    frmMainCommands::OpenLogFile(Owner(this));
 }
 
 void frmMain::cmdOpenTarvoDir_Click() {
-    const std::string folder = frmMainRules::GameFolder(App().ActiveProfile()->TarvolinPath());
-    if (mPath::FolderExists(folder))
-        Os().ShellExec(Owner(this), "open", folder, "", "", kSwShowNormal);
-    else
-        Ui().MsgBox(Translator().TranslateEx("ERROR_MESSAGES", "ERR_PathNotFound", folder), vbOKOnly);
+    frmMainCommands::OpenGameFolder(Owner(this));
 }
 
 // A new game path refills the lists from its folder.
 void frmMain::cmdSelectTarvoPath_Click() {
-    // A cancelled chooser hands back what it proposed: nothing new was chosen then.
-    const std::string current = Values().tarvolinPath;
-    const std::string chosen = mMain::AskForTarvoPath(current);
-    if (chosen == current || !mPath::FileExists(chosen))
+    const std::optional<std::string> chosen = frmMainCommands::ChooseGamePath(Values().tarvolinPath);
+    if (!chosen)
         return;
-    m_game->ShowTarvolinPath(chosen);
+    m_game->ShowTarvolinPath(*chosen);
     RefreshProfileData();
     LoadData(*App().ActiveProfile());
 }
@@ -185,38 +160,13 @@ void frmMain::mnuHelp_About_Click() {
     dialog.ShowModal();
 }
 
-// True when the window may close: after saving, after No, never after Cancel. A save that did not reach the
-// file keeps the window open, so the changes are not lost unasked. A failure here is reported and then the
-// user decides whether to quit anyway.
 bool frmMain::Form_QueryUnload() {
-    try {
-        RefreshProfileData();
-        if (!App().DataChanged())
-            return true;
-        const int answer = Ui().MsgBox(MainText("MSG_SaveChangesQuestion"), vbYesNoCancel | vbQuestion);
-        if (answer == vbYes && SaveData() != platform::WriteFault::None)
-            return false;
-        return answer != vbCancel;
-    } catch (...) {
-        mError::ShowError("frmMain.Form_QueryUnload");
-    }
-    try {
-        return Ui().MsgBox(MainText("MSG_QuitPavonelQuestion"), vbYesNo | vbQuestion) == vbYes;
-    } catch (...) {
-        return true;  // no text to ask with: the window must still be able to close
-    }
+    return frmMainCommands::QueryUnload([this] { RefreshProfileData(); }, [this] { return SaveData(); });
 }
 
-// The options are told about only when they were changed: the version stamps written with them are no
-// change of the user's, and a settings file kept read-only on purpose must not raise a message each time.
 void frmMain::Form_Unload() try {
     m_unloaded = true;
-    const bool optionsChanged = App().Options().DataChanged();
-    const platform::WriteFault fault = App().SaveAppSettings();
-    if (optionsChanged)
-        TellUnsaved(fault);
-    App().Profiles().SaveWhichProfileIsActive();
-    mMain::ClosePublicObjects();
+    frmMainCommands::Unload([this](platform::WriteFault fault) { TellUnsaved(fault); });
 } catch (...) {
     mError::ShowError("frmMain.Form_Unload");
 }
