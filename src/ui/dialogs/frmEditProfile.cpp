@@ -9,6 +9,7 @@
 #include "app/UserInterface.h"
 #include "error/mError.h"
 #include "profiles/Profile.h"
+#include "profiles/ProfileInput.h"
 #include "ui/EntryPoint.h"
 #include "ui/QtText.h"
 #include "ui/dialogs/MnemonicSet.h"
@@ -86,22 +87,12 @@ void frmEditProfile::TranslateDialog() try {
 }
 
 bool frmEditProfile::CheckInput() try {
-    // A locked name is the profile's own and was stored before; only a new one can be refused.
-    const std::string name = QtText::FromQt(txtName->text());
-    const char* problem = nullptr;
-    QLineEdit* offending = txtName;
-    if (name.empty())
-        problem = "MSG_PROFILE_NAME_MISSED";
-    else if (lngEditMode == kNewProfile && !Profile::IsStorableCaption(name))
-        problem = "MSG_PROFILE_NAME_INVALID";
-    else if (txtDescription->text().isEmpty()) {
-        problem = "MSG_PROFILE_DESCRIPTION_MISSED";
-        offending = txtDescription;
-    }
-    if (problem == nullptr)
+    const auto problem = ProfileInput::Check(lngEditMode == kNewProfile, QtText::FromQt(txtName->text()),
+                                             QtText::FromQt(txtDescription->text()));
+    if (!problem)
         return true;
-    Ui().MsgBox(TranslateDialogItem(problem), vbOKOnly);
-    offending->setFocus();
+    Ui().MsgBox(TranslateDialogItem(problem->key), vbOKOnly);
+    (problem->field == ProfileInput::Field::kName ? txtName : txtDescription)->setFocus();
     return false;
 } catch (...) {
     mError::PassOn("frmEditProfile.CheckInput");

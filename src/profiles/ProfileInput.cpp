@@ -1,0 +1,17 @@
+#include "profiles/ProfileInput.h"
+
+#include "profiles/Profile.h"
+
+namespace ProfileInput {
+
+std::optional<Problem> Check(bool newProfile, const std::string& name, const std::string& description) {
+    if (name.empty())
+        return Problem{"MSG_PROFILE_NAME_MISSED", Field::kName};
+    if (newProfile && !Profile::IsStorableCaption(name))
+        return Problem{"MSG_PROFILE_NAME_INVALID", Field::kName};
+    if (description.empty())
+        return Problem{"MSG_PROFILE_DESCRIPTION_MISSED", Field::kDescription};
+    return std::nullopt;
+}
+
+}  // namespace ProfileInput
