@@ -10,6 +10,9 @@
 
 class Profile;
 
+// Every message box carries the program's title.
+inline constexpr const char* kProgramTitle = "Pavonel";
+
 // Message-box styles: one button set, plus an icon, plus a default button.
 enum MsgBoxStyle : int {
     vbOKOnly = 0,

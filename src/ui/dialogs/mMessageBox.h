@@ -6,10 +6,9 @@
 #include <memory>
 #include <string>
 
-namespace mMessageBox {
+#include "app/UserInterface.h"
 
-// Every message box carries the program's title.
-inline constexpr const char* kProgramTitle = "Pavonel";
+namespace mMessageBox {
 
 // A box titled with the program's title that shows `prompt` with the buttons, icon and default button of
 // `style`. Escape and the window's close button answer as the Windows boxes do: with Cancel where there is
