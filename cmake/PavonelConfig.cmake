@@ -19,12 +19,20 @@ endif()
 if(WIN32)
     target_compile_definitions(pavonel_config INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX)
     # Every executable runs in the UTF-8 code page (Windows 10 1903 and later, and Wine), so the narrow
-    # texts of the "A" functions, the settings and the language files are UTF-8 as on Linux.
+    # texts of the "A" functions, the settings and the language files are UTF-8 as on Linux. Executables
+    # with windows (PAVONEL_WINDOWED) also ask for the common controls 6 (visual styles) and per-monitor DPI
+    # awareness; the program itself brings its own resource script with the same manifest.
     set(PAVONEL_MANIFEST ${PROJECT_SOURCE_DIR}/src/platform/win32/Utf8CodePage.manifest)
     configure_file(${PROJECT_SOURCE_DIR}/src/platform/win32/Utf8CodePage.rc.in
                    ${PROJECT_BINARY_DIR}/generated/Utf8CodePage.rc @ONLY)
+    set(PAVONEL_MANIFEST ${PROJECT_SOURCE_DIR}/src/platform/win32/Program.manifest)
+    configure_file(${PROJECT_SOURCE_DIR}/src/platform/win32/Utf8CodePage.rc.in
+                   ${PROJECT_BINARY_DIR}/generated/Windowed.rc @ONLY)
+    set(_pavonel_kind $<TARGET_PROPERTY:PAVONEL_RESOURCES>)
+    set(_pavonel_exe $<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>)
     target_sources(pavonel_config INTERFACE
-        $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${PROJECT_BINARY_DIR}/generated/Utf8CodePage.rc>)
+        $<$<AND:${_pavonel_exe},$<STREQUAL:${_pavonel_kind},>>:${PROJECT_BINARY_DIR}/generated/Utf8CodePage.rc>
+        $<$<AND:${_pavonel_exe},$<STREQUAL:${_pavonel_kind},windowed>>:${PROJECT_BINARY_DIR}/generated/Windowed.rc>)
 endif()
 
 if(PAVONEL_SANITIZE)

@@ -46,5 +46,6 @@ PAVONEL_HEADLESS_PACKAGES=(xvfb x11vnc)
 # installed program reads).
 PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format desktop-file-utils libglib2.0-bin appstream dpkg-dev
     lintian strace)
-# The Windows build: the compiler, GoogleTest's sources to build for Windows, and Wine to run the tests.
-PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64)
+# The Windows build: the compiler, GoogleTest's sources to build for Windows, Wine to run the tests, and
+# icotool, which packs the program's icon (drawn from the Linux icon by rsvg-convert) for Windows.
+PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64 icoutils)

@@ -1,0 +1,26 @@
+// The profile dialog: the name and description of a new profile, or the description of the active one
+// (its name is shown locked).
+#pragma once
+
+#include "winui/Modal.h"
+
+class Profile;
+
+class frmEditProfile : public ModalDialog {
+public:
+    static constexpr int kNewProfile = 1;
+
+    frmEditProfile();
+    void InitDialog(int lngEditMode, Profile& oProfile);
+
+protected:
+    void TranslateDialog() override;
+    void OnShow() override;
+    void OnCommand(int id, int code) override;
+
+private:
+    bool CheckInput();
+
+    int m_editMode = kNewProfile;
+    Profile* m_profile = nullptr;
+};

@@ -1,0 +1,163 @@
+// The buttons, the menu commands and closing the window. Every command is an event entry point: it reports
+// its own failure under "frmMain." and its name, and the action ends there.
+#include "mainwindow/frmMainCommands.h"
+#include "app/Application.h"
+#include "app/PublicObjects.h"
+#include "app/UserInterface.h"
+#include "error/mError.h"
+#include "mainwindow/frmMainRules.h"
+#include "platform/Platform.h"
+#include "profiles/Profile.h"
+#include "profiles/Profiles.h"
+#include "resource.h"
+#include "winui/dialogs/frmEditProfile.h"
+#include "winui/dialogs/frmProfiles.h"
+#include "winui/main/Pages.h"
+#include "winui/main/frmMain.h"
+
+namespace {
+
+int64_t Owner(HWND window) {
+    return static_cast<int64_t>(reinterpret_cast<intptr_t>(window));
+}
+
+struct Command {
+    int id;
+    void (*run)(frmMain& window, HWND handle);
+    const char* trail;
+};
+
+}  // namespace
+
+void frmMain::OnCommand(int id, int code) {
+    if (id >= IDC_ucTab1_0 && id < IDC_ucTab1_0 + kTabCount) {
+        if (code == BN_CLICKED)
+            ucTab1_Click(id - IDC_ucTab1_0);
+    } else if (id == IDCANCEL) {
+        // Escape closes no main window: it is the window of the program, not a dialog.
+    } else if (id >= IDM_mnuProfile_List_0 && id <= IDM_mnuProfile_List_Last) {
+        mError::AsEntryPoint("frmMain.mnuProfile_List_Click",
+                             [&] { mnuProfile_List_Click(id - IDM_mnuProfile_List_0); });
+    } else if (id >= IDM_mnuOptions_Lang_Item_0 && id < IDM_mnuProfile_List_0) {
+        mnuOptions_Lang_Item_Click(id - IDM_mnuOptions_Lang_Item_0);
+    } else if (code == BN_CLICKED || code == 0) {
+        RunCommand(id);
+    }
+}
+
+void frmMain::PageButton(int id) {
+    RunCommand(id);
+}
+
+// Every command with the name its reports carry.
+void frmMain::RunCommand(int id) {
+    static const Command kCommands[] = {
+        {IDC_cmdStart, [](frmMain& w, HWND) { w.cmdStart_Click(); }, "frmMain.cmdStart_Click"},
+        {IDC_cmdLogfile, [](frmMain&, HWND h) { frmMainCommands::OpenLogFile(Owner(h)); },
+         "frmMain.cmdLogfile_Click"},
+        {IDC_cmdLogfile2, [](frmMain&, HWND h) { frmMainCommands::OpenLogFile(Owner(h)); },
+         "frmMain.cmdLogfile2_Click"},
+        {IDC_cmdOpenTarvoDir, [](frmMain&, HWND h) { frmMainCommands::OpenGameFolder(Owner(h)); },
+         "frmMain.cmdOpenTarvoDir_Click"},
+        {IDC_cmdSelectTarvoPath, [](frmMain& w, HWND) { w.cmdSelectTarvoPath_Click(); },
+         "frmMain.cmdSelectTarvoPath_Click"},
+        {IDM_mnuFile_Save, [](frmMain& w, HWND) { w.SaveData(); }, "frmMain.mnuFile_Save_Click"},
+        {IDM_mnuFile_Quit, [](frmMain&, HWND h) { PostMessageA(h, WM_CLOSE, 0, 0); },
+         "frmMain.mnuFile_Quit_Click"},
+        {IDM_mnuFile_SendFeedback, [](frmMain&, HWND h) { App().ContactAuthor(Owner(h)); },
+         "frmMain.mnuFile_SendFeedback_Click"},
+        {IDM_mnuProfile_New, [](frmMain& w, HWND) { w.mnuProfile_New_Click(); },
+         "frmMain.mnuProfile_New_Click"},
+        {IDM_mnuProfile_Edit, [](frmMain& w, HWND) { w.mnuProfile_Edit_Click(); },
+         "frmMain.mnuProfile_Edit_Click"},
+        {IDM_mnuProfil_Manager, [](frmMain& w, HWND) { w.mnuProfil_Manager_Click(); },
+         "frmMain.mnuProfil_Manager_Click"},
+        {IDM_mnuEditCopy_CmdLine, [](frmMain& w, HWND) { w.mnuEditCopy_CmdLine_Click(); },
+         "frmMain.mnuEditCopy_CmdLine_Click"},
+        {IDM_mnuExtra_Accessories_LanguageEditor,
+         [](frmMain&, HWND h) {
+             Os().ShellExec(Owner(h), "open", "LanguageEditor.exe", "", App().GetToolsDirectory(),
+                            kSwShowNormal);
+         },
+         "frmMain.mnuExtra_Accessories_LanguageEditor_Click"},
+        {IDM_mnuHelp_FAQ, [](frmMain&, HWND h) { App().ShowFAQ(Owner(h), App().Options().Language()); },
+         "frmMain.mnuHelp_FAQ_Click"},
+        {IDM_mnuHelp_FAQ_EN, [](frmMain&, HWND h) { App().ShowFAQ(Owner(h), "EN"); },
+         "frmMain.mnuHelp_FAQ_EN_Click"},
+        {IDM_mnuHelp_Webpage, [](frmMain&, HWND h) { App().ShowPavonelWebpage(Owner(h)); },
+         "frmMain.mnuHelp_Webpage_Click"},
+    };
+    for (const Command& command : kCommands) {
+        if (command.id == id && !m_unloaded) {
+            mError::AsEntryPoint(command.trail, [&] { command.run(*this, Handle()); });
+            return;
+        }
+    }
+}
+
+void frmMain::cmdStart_Click() {
+    RefreshProfileData();
+    App().ActiveProfile()->StartTarvolin(Owner(Handle()));
+}
+
+// A new game path refills the lists from its folder.
+void frmMain::cmdSelectTarvoPath_Click() {
+    const std::optional<std::string> chosen = frmMainCommands::ChooseGamePath(Values().tarvolinPath);
+    if (!chosen)
+        return;
+    m_game->ShowTarvolinPath(*chosen);
+    RefreshProfileData();
+    LoadData(*App().ActiveProfile());
+}
+
+void frmMain::mnuProfile_New_Click() {
+    RefreshProfileData();
+    if (Profile* created = App().Profiles().ShowAddNewDialog())
+        LoadData(*created);
+}
+
+void frmMain::mnuProfile_Edit_Click() {
+    frmEditProfile dialog;
+    dialog.InitDialog(2, *App().ActiveProfile());
+    dialog.ShowModal(Handle());
+}
+
+// The edits of the profile shown so far stay with it before the other one is shown.
+void frmMain::mnuProfile_List_Click(int index) {
+    RefreshProfileData();
+    LoadData(App().Profiles().Item(m_profileTags.at(static_cast<std::size_t>(index))));
+}
+
+void frmMain::mnuProfil_Manager_Click() {
+    frmProfiles dialog;
+    dialog.InitDialog();
+    dialog.ShowModal(Handle());
+}
+
+void frmMain::mnuEditCopy_CmdLine_Click() {
+    Ui().SetClipboardText(
+        frmMainRules::CleanText(App().ActiveProfile()->TarvolinPath() + GetCmdLineParameters()));
+}
+
+// The language changes at once: every caption, both lists and the version line.
+void frmMain::mnuOptions_Lang_Item_Click(int index) try {
+    App().Options().SetLanguage(m_languageTags.at(static_cast<std::size_t>(index)));
+    HighligthSelectedLanguage();
+    TranslateDialog();
+} catch (...) {
+    mError::ShowError("frmMain.mnuOptions_Lang_Item_Click");
+}
+
+void frmMain::Form_QueryUnloadAndClose() {
+    if (!frmMainCommands::QueryUnload([this] { RefreshProfileData(); }, [this] { return SaveData(); }))
+        return;
+    Form_Unload();
+    DestroyWindow(Handle());
+}
+
+void frmMain::Form_Unload() try {
+    m_unloaded = true;
+    frmMainCommands::Unload([](platform::WriteFault fault) { App().TellUnsaved(fault); });
+} catch (...) {
+    mError::ShowError("frmMain.Form_Unload");
+}

@@ -1,0 +1,27 @@
+// The preview of the chosen resolution on the display page (UserControl11): the sample picture of the game,
+// the smaller the higher the resolution, or inside a drawn window for the game's own window. It paints an
+// owner-drawn static control; where the picture goes is the layout rule every face shares.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <optional>
+
+#include "mainwindow/PreviewLayout.h"
+
+class ucResolutionPreview {
+public:
+    void Attach(HWND control) { m_control = control; }
+
+    // Keeps the resolution and lays the picture out anew; a resolution that is not above 0 in both
+    // directions outside window look leaves the drawing as it was.
+    void SetResolution(int16_t width, int16_t height, bool windowLook);
+
+    void Paint(const DRAWITEMSTRUCT& item) const;
+
+private:
+    HWND m_control = nullptr;
+    std::optional<PreviewLayout::Layout> m_layout;
+    bool m_windowLook = false;
+};
