@@ -8,7 +8,11 @@
 #include <QPalette>
 #include <QSet>
 #include <QUrl>
+#include <optional>
+#include <string>
+#include <vector>
 
+#include "base/PathDrop.h"
 #include "base/mString.h"
 #include "error/mError.h"
 #include "ui/EntryPoint.h"
@@ -54,7 +58,7 @@ QStringList OfferedFiles(const QMimeData* data) {
 // a single file are taken as a copy, anything else with the action the drag source proposed.
 void TakeOffer(QDropEvent* event) {
     const QMimeData* data = event->mimeData();
-    if (data && (OffersText(data) || OfferedFiles(data).size() == 1))
+    if (data && PathDrop::TakenAsCopy(OffersText(data), static_cast<std::size_t>(OfferedFiles(data).size())))
         event->setDropAction(Qt::CopyAction);
     event->accept();
 }
@@ -207,10 +211,11 @@ void ucPath::txtPath_OLEDragDrop(QDropEvent* event) try {
 QString ucPath::GetPathFromClipboard(const QMimeData* data) try {
     if (!data)
         return QString();
-    if (OffersText(data))
-        return data->text();
-    const QStringList files = OfferedFiles(data);
-    return files.size() == 1 ? files.front() : QString();
+    std::vector<std::string> files;
+    for (const QString& file : OfferedFiles(data))
+        files.push_back(QtText::FromQt(file));
+    const auto text = OffersText(data) ? std::optional(QtText::FromQt(data->text())) : std::nullopt;
+    return QtText::ToQt(PathDrop::PathOf(text, files));
 } catch (...) {
     mError::ShowError("ucPath.GetPathFromClipboard");
     return QString();

@@ -5,10 +5,12 @@
 #include <vector>
 
 #include "app/PublicObjects.h"
+#include "base/mString.h"
 #include "mainwindow/frmMainLists.h"
 #include "resource.h"
 #include "translate/cTranslate.h"
 #include "winui/WinText.h"
+#include "winui/controls/ucPath.h"
 
 namespace {
 
@@ -46,7 +48,7 @@ GamePage::GamePage(ValueChanged changed, ButtonPressed pressed)
     : MainPage(IDD_GamePage, std::move(changed), std::move(pressed)) {}
 
 void GamePage::OnInit() {
-    SendMessageA(Item(IDC_txtTarvolinPath), EM_LIMITTEXT, MAX_PATH, 0);
+    ucPath::Attach(Item(IDC_txtTarvolinPath), "ucPath");
 }
 
 void GamePage::ShowValues(const MainWindowValues& values) {
@@ -65,6 +67,16 @@ void GamePage::ShowTarvolinPath(const std::string& path) {
     WinText::SetItem(Handle(), IDC_txtTarvolinPath, path);
 }
 
+// A path is one line, however it came in (typed, pasted, dropped or set): the field loses its line breaks
+// at once, which changes it again.
+void GamePage::TarvolinPathChanged() {
+    const std::string text = WinText::Item(Handle(), IDC_txtTarvolinPath);
+    if (text.find_first_of("\r\n") != std::string::npos)
+        WinText::SetItem(Handle(), IDC_txtTarvolinPath, mString::OneLine(text));
+    else
+        Changed("frmMain.txtTarvolinPath_Change");
+}
+
 void GamePage::Retranslate(Mnemonics& keys) {
     SetCaption(IDC_lblTarvoPath, keys, Text("LBL_TARVOPATH"));
     SetCaption(IDC_cmdSelectTarvoPath, keys, Translator().TranslateEx("GLOBAL", "BTN_Browse"));
@@ -81,7 +93,7 @@ void GamePage::OnCommand(int id, int code) {
     else if (id == IDC_ckFreeplay && code == BN_CLICKED)
         Changed("frmMain.ckFreeplay_Click");
     else if (id == IDC_txtTarvolinPath && code == EN_CHANGE)
-        Changed("frmMain.txtTarvolinPath_Change");
+        TarvolinPathChanged();
     else
         MainPage::OnCommand(id, code);
 }

@@ -18,6 +18,9 @@ public:
 protected:
     void OnInit() override;
     void OnCommand(int id, int code) override;
+
+private:
+    void TarvolinPathChanged();
 };
 
 class ScenarioPage : public MainPage {
