@@ -2,8 +2,13 @@
 
 #include <windowsx.h>
 
+#include <tuple>
 #include "WindowFixture.h"
+
+#include "platform/NativePath.h"
+#include "platform/Platform.h"
 #include "profiles/Profiles.h"
+#include "support/StandInGame.h"
 #include "translate/cTranslate.h"
 
 namespace {
@@ -67,13 +72,19 @@ TEST_F(frmMainTest, ResolutionFieldsTakeDigitsAndCorrectSmallSizes) {
     EXPECT_EQ(Text(IDC_txtCommandLine), "-log -res 4 -refresh 1");
 }
 
-TEST_F(frmMainTest, AWidthThatIsNoNumberEndsTheSaveWithAReport) {
-    SetText(IDC_txtRes_Width, "");
-    Choose(IDM_mnuFile_Save);
-    ASSERT_EQ(reports.size(), 1u);
-    EXPECT_NE(reports[0].find("20006"), std::string::npos);
-    EXPECT_NE(reports[0].find("frmMain.mnuFile_Save_Click\r\nfrmMain.SaveData\r\nfrmMain.RefreshProfileData"),
-              std::string::npos);
+// A width that is no number fails the checks; one beyond 16 bits fails when it is written into the profile.
+TEST_F(frmMainTest, AWidthThatIsNoNumberOrTooBigEndsTheSaveWithAReport) {
+    for (const auto& [width, number, trail] :
+         {std::tuple{"", "20006", "frmMain.RefreshProfileData\r\nfrmMain.CheckData"},
+          std::tuple{"40000", "Err.-Number: 6 ", "frmMain.SaveData\r\nfrmMain.RefreshProfileData"}}) {
+        reports.clear();
+        SetText(IDC_txtRes_Width, width);
+        Choose(IDM_mnuFile_Save);
+        ASSERT_EQ(reports.size(), 1u) << width;
+        EXPECT_NE(reports[0].find(number), std::string::npos) << reports[0];
+        EXPECT_NE(reports[0].find(std::string("frmMain.mnuFile_Save_Click\r\n")), std::string::npos);
+        EXPECT_NE(reports[0].find(trail), std::string::npos) << reports[0];
+    }
 }
 
 // The edits of one profile stay with it when another is shown, and a new profile comes through its dialog.
@@ -111,8 +122,20 @@ TEST_F(frmMainTest, TheLanguageSwitchesEveryCaptionAtOnce) {
     EXPECT_EQ(std::string(title), Translator().TranslateEx("MAIN_DIALOG", "MNU_FILE"));
 }
 
-// Cancel keeps the window and its edits; Yes saves them into the settings file and ends the program.
-TEST_F(frmMainTest, ClosingAsksWhetherToSave) {
+// Cancel keeps the window and its edits, No leaves the profiles in the settings file as they were, Yes
+// saves. A game at a long path with umlauts (the program speaks UTF-8 to Windows) is then started with the
+// command line and working directory of the saved profile. The path stays short enough for the stand-in to
+// write its record beside itself within Windows' 260 characters.
+TEST_F(frmMainTest, ClosingAsksWhetherToSaveAndTheNextStartLaunchesWhatWasSaved) {
+    Click(IDC_ckFreeplay);
+    EXPECT_TRUE(Close({IDNO}));
+    EXPECT_NE(ReadIni().find("[profile_A]\r\nTARVOPATH=" + game + "\r\nFREEPLAY=0\r\n"), std::string::npos);
+    main = Main();
+    const std::string base = platform::TextOf(dir.Path()) + "\\Spiele\\Tarvolin Größe";
+    const std::string folder = base + "\\" + std::string(230 - (base + "\\\\tarvolin.exe").size(), 'a');
+    const StandInGame stand(platform::PathOf(folder));
+    ASSERT_EQ(stand.Path().size(), 230u);
+    SetText(IDC_txtTarvolinPath, stand.Path());
     Click(IDC_ckFreeplay);
     EXPECT_FALSE(Close({IDCANCEL}));
     EXPECT_EQ(Button_GetCheck(Control(IDC_ckFreeplay)), BST_CHECKED);
@@ -120,8 +143,20 @@ TEST_F(frmMainTest, ClosingAsksWhetherToSave) {
         if (dialog.Layout() == IDD_frmSave)
             SendMessageA(GetDlgItem(dialog.Handle(), IDC_Command1), BM_CLICK, 0, 0);
     };
-    EXPECT_TRUE(Close({IDYES}));
-    EXPECT_NE(ReadIni().find("[profile_A]\r\nTARVOPATH=" + game + "\r\nFREEPLAY=1\r\n"), std::string::npos);
+    ASSERT_TRUE(Close({IDYES}));
+    EXPECT_NE(ReadIni().find("[profile_A]\r\nTARVOPATH=" + stand.Path() + "\r\nFREEPLAY=1\r\n"),
+              std::string::npos);
+    EXPECT_EQ(boxes.size(), 3u) << boxes.back();
+    main = Main();
+    ASSERT_NE(main, nullptr);
+    EXPECT_EQ(Text(IDC_txtTarvolinPath), stand.Path());
+    InstallPlatform(nullptr);
+    g_cApp->Options().SetShowStartTarvolinDialog(false);
+    Click(IDC_cmdStart);
+    const std::optional<LaunchRecord> record = stand.WaitForRecord(std::chrono::seconds(30));
+    InstallPlatform(&platform);
+    ASSERT_TRUE(record);
+    EXPECT_EQ(*record, (LaunchRecord{folder, {"-log", "-res", "1", "-freeplay", "-refresh", "1"}}));
 }
 
 }  // namespace

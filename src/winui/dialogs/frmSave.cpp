@@ -32,8 +32,10 @@ void frmSave::TranslateDialog() try {
 void frmSave::OnCommand(int id, int code) {
     if (id == IDC_Command1 && code == BN_CLICKED) {
         mError::AsEntryPoint("frmSave.Command1_Click", [this] {
-            App().TellUnsaved(App().SaveDataEx(ucProfiles1.GetSelectedItems()));
+            const platform::WriteFault fault = App().SaveDataEx(ucProfiles1.GetSelectedItems());
             Dismiss();
+            if (fault != platform::WriteFault::None)
+                App().TellUnsaved(fault);
         });
     } else if (id == IDC_Command2 && code == BN_CLICKED) {
         Dismiss();
