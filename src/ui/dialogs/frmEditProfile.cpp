@@ -64,18 +64,20 @@ void frmEditProfile::InitDialog(int32_t mode, Profile& profile) try {
     lngEditMode = mode;
     ResetCancel();
     const bool newProfile = mode == kNewProfile;
-    LockNameField(!newProfile);
+    LockNameField(mode == kEditProfileMode);
     txtName->setText(newProfile ? QString() : QtText::ToQt(profile.ProfileCaption()));
     txtDescription->setText(newProfile ? QString() : QtText::ToQt(profile.ProfileDescription()));
     TranslateDialog();
-    (newProfile ? txtName : txtDescription)->setFocus();
+    (mode == kEditProfileMode ? txtDescription : txtName)->setFocus();
+    txtName->selectAll();
 } catch (...) {
     mError::PassOn("frmEditProfile.InitDialog");
 }
 
 void frmEditProfile::TranslateDialog() try {
-    setWindowTitle(QtText::ToQt(
-        TranslateDialogItem(lngEditMode == kNewProfile ? "DIALOG_CAPTION1" : "DIALOG_CAPTION2")));
+    const bool known = lngEditMode >= kNewProfileMode && lngEditMode <= kImportProfileMode;
+    setWindowTitle(
+        QtText::ToQt(TranslateDialogItem("DIALOG_CAPTION" + std::to_string(known ? lngEditMode : 2))));
     MnemonicSet keys;
     lblName->setText(keys.Add(ItemText("LBL_NAME")));
     lblDesc->setText(keys.Add(ItemText("LBL_DESCRIPTION")));
@@ -86,22 +88,13 @@ void frmEditProfile::TranslateDialog() try {
 }
 
 bool frmEditProfile::CheckInput() try {
-    // A locked name is the profile's own and was stored before; only a new one can be refused.
-    const std::string name = QtText::FromQt(txtName->text());
-    const char* problem = nullptr;
-    QLineEdit* offending = txtName;
-    if (name.empty())
-        problem = "MSG_PROFILE_NAME_MISSED";
-    else if (lngEditMode == kNewProfile && !Profile::IsStorableCaption(name))
-        problem = "MSG_PROFILE_NAME_INVALID";
-    else if (txtDescription->text().isEmpty()) {
-        problem = "MSG_PROFILE_DESCRIPTION_MISSED";
-        offending = txtDescription;
-    }
+    // A locked name is the profile's own and was stored before; only one typed here can be refused.
+    const char* problem = Profile::InputProblem(
+        QtText::FromQt(txtName->text()), QtText::FromQt(txtDescription->text()), !txtName->isReadOnly());
     if (problem == nullptr)
         return true;
     Ui().MsgBox(TranslateDialogItem(problem), vbOKOnly);
-    offending->setFocus();
+    (std::string_view(problem) == "MSG_PROFILE_DESCRIPTION_MISSED" ? txtDescription : txtName)->setFocus();
     return false;
 } catch (...) {
     mError::PassOn("frmEditProfile.CheckInput");
