@@ -13,14 +13,6 @@ namespace {
 
 using frmProfilesTest = MainWindowFixture;
 
-QStringList Captions(const QWidget& window) {
-    const auto* list = Find<QTreeWidget>(window, "ListView1");
-    QStringList captions;
-    for (int i = 0; i < list->topLevelItemCount(); ++i)
-        captions << list->topLevelItem(i)->text(0) + (list->topLevelItem(i)->isSelected() ? "*" : "");
-    return captions;
-}
-
 // Alt+R renames the selected profile, Alt+D duplicates it under the proposed name, and a click on Delete
 // deletes another one after Yes. Every button has a key of its own.
 TEST_F(frmProfilesTest, RenamesDuplicatesAndDeletesTheSelectedProfile) {
