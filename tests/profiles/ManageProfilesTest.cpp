@@ -97,12 +97,15 @@ TEST_F(ManageProfilesTest, DeleteRemovesTheSectionAndFallsBackToTheStandardProfi
     a.SetRefresh(4);
     ui.answers = {vbNo, vbYes};
     EXPECT_FALSE(mManageProfiles::DeleteProfile(a));
+    // Another copy of the program saved in the meantime: its write is kept.
+    WriteIni(std::string(kIni) + "[profile_C]\r\n");
     EXPECT_TRUE(mManageProfiles::DeleteProfile(a));
     const std::string changed =
         Translator().TranslateEx("MAIN_DIALOG", "MSG_DeleteChangedProfileQuestion", "A");
     EXPECT_EQ(Messages(), changed + "|" + changed + "|");
     EXPECT_EQ(ReadIni(),
-              "[PROFILES]\r\nLASTACTIVEPROFILE=PROFILE_DEFAULT\r\n; kept\r\n[profile_B]\r\nREFRESH=2\r\n");
+              "[PROFILES]\r\nLASTACTIVEPROFILE=PROFILE_DEFAULT\r\n; "
+              "kept\r\n[profile_B]\r\nREFRESH=2\r\n[profile_C]\r\n");
     EXPECT_EQ(g_cApp->ActiveProfile(), &All().Item("PROFILE_DEFAULT"));
     EXPECT_FALSE(mManageProfiles::DeleteProfile(All().Item("PROFILE_DEFAULT")));
     // A file that cannot be written keeps the profile, and the user is told why.
