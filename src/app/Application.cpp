@@ -167,9 +167,13 @@ platform::WriteFault Application::SaveAppSettings() try {
     mError::PassOn("Application.SaveAppSettings");
 }
 
+std::string Application::WriteFaultText(platform::WriteFault fault) {
+    return Translator().TranslateEx("ERROR_MESSAGES", SaveFaultKey(fault));
+}
+
 std::string Application::SaveFailureText(platform::WriteFault fault) const {
-    const std::string reason = Translator().TranslateEx("ERROR_MESSAGES", SaveFaultKey(fault));
-    return Translator().TranslateEx("ERROR_MESSAGES", "ERR_SettingsNotSaved", m_iniPath, reason);
+    return Translator().TranslateEx("ERROR_MESSAGES", "ERR_SettingsNotSaved", m_iniPath,
+                                    WriteFaultText(fault));
 }
 
 void Application::TellUnsaved(platform::WriteFault fault) const {

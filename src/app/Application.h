@@ -55,6 +55,8 @@ public:
     // they were not saved.
     platform::WriteFault SaveAppSettings();
 
+    // Why a write did not reach its file, for people.
+    static std::string WriteFaultText(platform::WriteFault fault);
     // The message that changes could not be saved, naming the settings file and the reason.
     std::string SaveFailureText(platform::WriteFault fault) const;
     // Shows that message.

@@ -22,9 +22,19 @@ std::string ConsoleUserInterface::ChooseFolder(int64_t /*owner*/, const std::str
     return {};
 }
 
+std::string ConsoleUserInterface::ChooseFileToSave(const OpenFileOptions& options) {
+    std::cerr << "Pavonel: no window to choose a file in: " << options.title << '\n';
+    return {};
+}
+
 // The text goes to the stream instead, so that it is not lost.
 void ConsoleUserInterface::SetClipboardText(const std::string& text) {
     std::cerr << text << '\n';
+}
+
+// There is no clipboard to read without a window system.
+std::string ConsoleUserInterface::GetClipboardText() {
+    return {};
 }
 
 bool ConsoleUserInterface::ShowEditProfileDialog(int32_t /*editMode*/, Profile& /*profile*/) {

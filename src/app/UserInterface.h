@@ -13,6 +13,15 @@ class Profile;
 // Every message box carries the program's title.
 inline constexpr const char* kProgramTitle = "Pavonel";
 
+// What the profile edit dialog is opened for: which caption it shows and whether the name can be edited.
+enum EditProfileMode : int32_t {
+    kNewProfileMode = 1,        // a new profile, both fields empty
+    kEditProfileMode = 2,       // the name locked, the description edited
+    kRenameProfileMode = 3,     // a new name for a profile
+    kDuplicateProfileMode = 4,  // the name for a copy of a profile
+    kImportProfileMode = 5,     // the name for a profile handed in as text
+};
+
 // Message-box styles: one button set, plus an icon, plus a default button.
 enum MsgBoxStyle : int {
     vbOKOnly = 0,
@@ -98,11 +107,18 @@ public:
     virtual std::string ChooseFolder(int64_t owner, const std::string& title,
                                      const std::string& rootFolder) = 0;
 
+    // The file-save chooser, modal: a new or existing file may be named; an existing one is replaced
+    // after a question. Returns the chosen path, or "" when nothing was chosen.
+    virtual std::string ChooseFileToSave(const OpenFileOptions& options) = 0;
+
     // Replaces the clipboard's content with `text`.
     virtual void SetClipboardText(const std::string& text) = 0;
+    // The clipboard's text (UTF-8), or "" when it holds none.
+    virtual std::string GetClipboardText() = 0;
 
-    // The profile edit dialog (frmEditProfile) in `editMode` (1: a new profile); true when it ended with OK,
-    // having set the profile's name and description.
+    // The profile edit dialog (frmEditProfile) in `editMode` (an EditProfileMode); true when it ended with
+    // OK, having set the profile's name and description. Where the name can be edited, it starts with the
+    // profile's caption unless the mode is a new profile's.
     virtual bool ShowEditProfileDialog(int32_t editMode, Profile& profile) = 0;
 
     // The profile chooser (frmLoadProfile); the chosen member of the application's collection, or nullptr

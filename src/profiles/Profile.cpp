@@ -9,6 +9,7 @@
 #include "base/mString.h"
 #include "error/mError.h"
 #include "platform/Platform.h"
+#include "storage/IniDocument.h"
 #include "storage/mIni.h"
 #include "translate/cTranslate.h"
 
@@ -48,13 +49,42 @@ std::string Profile::ProfileCaption() const {
 bool Profile::LoadData() try {
     iniFile::Load load = m_settings.BeginLoad();
     m_loaded = false;
-    for (const ProfileSettings::Any& setting : ProfileSettings::kAll)
-        std::visit([this](const auto* declared) { ReadSetting(*declared); }, setting);
+    ReadSettings([this](const auto& setting) { return m_settings.Read(setting.key, setting.readTrail); });
     m_loaded = true;
     m_isNewProfile = false;
     return false;
 } catch (...) {
     mError::PassOn("Profile.LoadData");
+}
+
+namespace {
+
+// A value of the text as a read of the settings file gives it.
+std::string TextOf(const IniDocument& document, const std::string& section, const IniKey<const char*>& key) {
+    return mIni::AsRead(document.Value(section, key.name), key.defaultValue);
+}
+bool TextOf(const IniDocument& document, const std::string& section, const IniKey<bool>& key) {
+    return mIni::BoolFromText(mIni::AsRead(document.Value(section, key.name), ""), key.defaultValue);
+}
+int16_t TextOf(const IniDocument& document, const std::string& section, const IniKey<int16_t>& key) {
+    return mString::ToInt16(
+        mIni::AsRead(document.Value(section, key.name), std::to_string(key.defaultValue)));
+}
+
+}  // namespace
+
+void Profile::LoadData(const IniDocument& document, const std::string& section) try {
+    m_loaded = false;
+    ReadSettings([&](const auto& setting) { return TextOf(document, section, setting.key); });
+    m_loaded = true;
+    m_isNewProfile = false;
+} catch (...) {
+    mError::PassOn("Profile.LoadData");
+}
+
+void Profile::CopySettingsFrom(const Profile& source) {
+    for (const ProfileSettings::Any& setting : ProfileSettings::kAll)
+        std::visit([&](const auto* declared) { Set(*declared, source.Get(*declared)); }, setting);
 }
 
 // An ID below 1 would select no resolution at all; the replacement counts as a change, so the next save

@@ -10,6 +10,8 @@
 #include "profiles/ProfileSettings.h"
 #include "storage/cIni_Profile.h"
 
+class IniDocument;
+
 class Profile {
 public:
     // The text of the warning for a stored resolution ID below 1.
@@ -39,8 +41,20 @@ public:
     // warning and counts as a change. Always returns false.
     bool LoadData();
 
+    // Reads every setting from `section` of a profile handed in as text, by the rules of LoadData (numbers
+    // are expected to have been checked).
+    void LoadData(const IniDocument& document, const std::string& section);
+
     // Writes every setting as one update of the settings file and clears DataChanged.
     void SaveData();
+
+    // Gives the profile's section in the settings file the name `to`, or removes it; each is one write of
+    // the file. The profile's own name is its owner's to change.
+    platform::WriteFault RenameData(const std::string& to) const { return m_settings.RenameSection(to); }
+    platform::WriteFault DeleteData() const { return m_settings.DeleteSection(); }
+
+    // Takes every setting of `source`; a setting that differs marks the profile changed.
+    void CopySettingsFrom(const Profile& source);
 
     bool IsNewProfile() const { return m_isNewProfile; }
     void SetIsNewProfile(bool value) { m_isNewProfile = value; }
@@ -107,10 +121,15 @@ private:
         field = value;
         m_dataChanged = true;
     }
-    // Reads one setting; a bad resolution is told before anything after it is read.
-    template <class T>
-    void ReadSetting(const ProfileSetting<T>& setting) {
-        m_values[setting.index].template emplace<T>(m_settings.Read(setting.key, setting.readTrail));
+    // Reads every setting through `read`; a bad resolution is told before anything after it is read.
+    template <class Read>
+    void ReadSettings(const Read& read) {
+        for (const ProfileSettings::Any& setting : ProfileSettings::kAll)
+            std::visit([&](const auto* declared) { ReadSetting(*declared, read); }, setting);
+    }
+    template <class T, class Read>
+    void ReadSetting(const ProfileSetting<T>& setting, const Read& read) {
+        m_values[setting.index].template emplace<T>(read(setting));
         if (setting.index == ProfileSettings::kPreDefinedResolution.index)
             CheckResolution();
     }

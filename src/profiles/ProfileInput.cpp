@@ -4,10 +4,10 @@
 
 namespace ProfileInput {
 
-std::optional<Problem> Check(bool newProfile, const std::string& name, const std::string& description) {
+std::optional<Problem> Check(bool nameEditable, const std::string& name, const std::string& description) {
     if (name.empty())
         return Problem{"MSG_PROFILE_NAME_MISSED", Field::kName};
-    if (newProfile && !Profile::IsStorableCaption(name))
+    if (nameEditable && !Profile::IsStorableCaption(name))
         return Problem{"MSG_PROFILE_NAME_INVALID", Field::kName};
     if (description.empty())
         return Problem{"MSG_PROFILE_DESCRIPTION_MISSED", Field::kDescription};

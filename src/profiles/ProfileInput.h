@@ -14,7 +14,8 @@ struct Problem {
     Field field;
 };
 
-// A name that is shown locked (an existing profile's) was stored before: only a new one can be refused.
-std::optional<Problem> Check(bool newProfile, const std::string& name, const std::string& description);
+// A name is needed and, when it can be edited, one that can be stored (a locked name is the profile's own
+// and was stored before); a description is needed.
+std::optional<Problem> Check(bool nameEditable, const std::string& name, const std::string& description);
 
 }  // namespace ProfileInput

@@ -12,6 +12,7 @@
 #include "platform/FileSystem.h"
 #include "storage/IniEncoding.h"
 #include "storage/iniFile.h"
+#include "storage/mIni.h"
 #include "translate/cTranslate.h"
 
 namespace {
@@ -83,11 +84,7 @@ void Profiles::Remove(int32_t index) try {
     mError::PassOn("Profiles.Remove");
 }
 
-void Profiles::Remove(const std::string& name) try {
-    const Profile& profile = Item(name);
-    Erase(std::find_if(m_items.begin(), m_items.end(),
-                       [&](const Entry& entry) { return entry.profile.get() == &profile; }));
-} catch (...) {
+void Profiles::Remove(const std::string& name) try { Erase(EntryOf(Item(name))); } catch (...) {
     mError::PassOn("Profiles.Remove");
 }
 
@@ -103,21 +100,98 @@ Profile* Profiles::ShowAddNewDialog() try {
     auto profile = std::make_unique<Profile>();
     if (!Ui().ShowEditProfileDialog(1, *profile))
         return nullptr;
-    profile->Key = profile->ProfileName();
-    profile->SetIsNewProfile(true);
-    profile->SetDataChanged(true);
     if (DoesProfileExist(profile->ProfileName())) {
         Ui().MsgBox(
             Translator().TranslateEx("ERROR_MESSAGES", "ERR_ProfileNameNotUnique", profile->ProfileCaption()),
             vbOKOnly);
         return nullptr;
     }
+    return &AddNew(std::move(profile));
+} catch (...) {
+    mError::PassOn("Profiles.ShowAddNewDialog");
+}
+
+Profile& Profiles::AddNew(std::unique_ptr<Profile> profile) try {
+    if (Find(profile->ProfileName()) != nullptr)
+        mError::RaiseRuntimeError(mError::kDuplicateKey);
+    profile->Key = profile->ProfileName();
+    profile->SetIsNewProfile(true);
+    profile->SetDataChanged(true);
     Profile& added = *profile;
     Store(added.ProfileName(), std::move(profile));
     App().SetActiveProfile(&added);
-    return &added;
+    return added;
 } catch (...) {
-    mError::PassOn("Profiles.ShowAddNewDialog");
+    mError::PassOn("Profiles.AddNew");
+}
+
+bool Profiles::IsStandardProfile(const std::string& name) {
+    return mString::EqualsNoCase(name, kStandardProfileName);
+}
+
+bool Profiles::IsNameTaken(const std::string& name, const Profile* self) const {
+    const Profile* found = Find(name);
+    return IsStandardProfile(name) || (found != nullptr && found != self);
+}
+
+std::string Profiles::FreeCaption(const std::string& caption) const {
+    for (int number = 2;; ++number) {
+        const std::string suffix = " (" + std::to_string(number) + ")";
+        const std::size_t room = mIni::kReadBufferSize - 1 - std::string_view(Profile::kNamePrefix).size();
+        std::string candidate = mString::TrimRight(caption.substr(0, room - suffix.size())) + suffix;
+        if (!IsNameTaken(Profile::kNamePrefix + candidate))
+            return candidate;
+    }
+}
+
+platform::WriteFault Profiles::Rename(Profile& profile, const std::string& name) try {
+    const std::string old = profile.ProfileName();
+    iniFile::Update save = m_settings.BeginSave();
+    profile.RenameData(name);
+    if (mString::EqualsNoCase(m_settings.Read_ActiveProfileName(), old))
+        m_settings.Write_ActiveProfileName(name);
+    const platform::WriteFault fault = save.Commit();
+    if (fault != platform::WriteFault::None)
+        return fault;
+    const auto entry = EntryOf(profile);
+    m_byKey.erase(entry->key);
+    entry->key = name;
+    m_byKey.emplace(name, &profile);
+    profile.Key = name;
+    profile.SetProfileName(name);
+    return fault;
+} catch (...) {
+    mError::PassOn("Profiles.Rename");
+}
+
+platform::WriteFault Profiles::Delete(Profile& profile) try {
+    if (IsStandardProfile(profile.ProfileName()))
+        mError::RaiseRuntimeError(mError::kInvalidProcedureCall);
+    iniFile::Update save = m_settings.BeginSave();
+    profile.DeleteData();
+    if (mString::EqualsNoCase(m_settings.Read_ActiveProfileName(), profile.ProfileName()))
+        m_settings.Write_ActiveProfileName(kStandardProfileName);
+    const platform::WriteFault fault = save.Commit();
+    if (fault != platform::WriteFault::None)
+        return fault;
+    if (App().ActiveProfile() == &profile)
+        App().SetActiveProfile(&StandardProfile());
+    Erase(EntryOf(profile));
+    return fault;
+} catch (...) {
+    mError::PassOn("Profiles.Delete");
+}
+
+std::vector<Profiles::Entry>::iterator Profiles::EntryOf(const Profile& profile) {
+    return std::find_if(m_items.begin(), m_items.end(),
+                        [&](const Entry& entry) { return entry.profile.get() == &profile; });
+}
+
+Profile& Profiles::StandardProfile() {
+    if (Profile* standard = Find(kStandardProfileName))
+        return *standard;
+    CreateStandardProfile();
+    return *m_items.back().profile;
 }
 
 void Profiles::LoadData() try {

@@ -23,6 +23,30 @@ public:
     // Runs the new-profile dialog; the new profile, now active, or nullptr.
     Profile* ShowAddNewDialog();
 
+    // Adds `profile`, named already, as a new profile that is still to be saved, and makes it active.
+    Profile& AddNew(std::unique_ptr<Profile> profile);
+
+    // True for the standard profile's name in any case; it is never renamed or deleted.
+    static bool IsStandardProfile(const std::string& name);
+
+    // True when a profile other than `self` is named `name` (any case); the standard profile's name is
+    // always taken, whether that profile exists or not.
+    bool IsNameTaken(const std::string& name, const Profile* self = nullptr) const;
+
+    // A caption for another profile made from one captioned `caption`: it followed by " (2)", or by the next
+    // number that gives a free name, the caption shortened where the name would be too long to store.
+    std::string FreeCaption(const std::string& caption) const;
+
+    // Gives `profile` the name `name` here and its section in the settings file, with the remembered active
+    // profile following, in one write of the file. When that write does not happen, says why and changes
+    // nothing.
+    platform::WriteFault Rename(Profile& profile, const std::string& name);
+
+    // Removes `profile` with its section of the settings file, in one write; a remembered or active profile
+    // that was it becomes the standard profile (made when there is none). When the write does not happen,
+    // says why and changes nothing. Never the standard profile (failure 5).
+    platform::WriteFault Delete(Profile& profile);
+
     // By position (from 1) or by name; an unknown position fails with 9, an unknown name with 5.
     Profile& Item(int32_t index);
     Profile& Item(const std::string& name);
@@ -74,6 +98,8 @@ private:
     void Store(const std::string& key, std::unique_ptr<Profile> profile);
     void Erase(std::vector<Entry>::iterator entry);
     void LoadSection(const std::string& name);
+    Profile& StandardProfile();
+    std::vector<Entry>::iterator EntryOf(const Profile& profile);
 
     std::vector<Entry> m_items;
     std::unordered_map<std::string, Profile*, mString::NoCaseHash, mString::NoCaseEqual>

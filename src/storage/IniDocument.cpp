@@ -144,6 +144,24 @@ std::optional<std::string> IniDocument::Value(std::string_view section, std::str
     return ValueOf(*line);
 }
 
+std::vector<std::string> IniDocument::SectionNames() const {
+    std::vector<std::string> names;
+    for (std::size_t i = 1; i < m_sections.size(); ++i)
+        names.emplace_back(m_sections[i].lines.front().Name());
+    return names;
+}
+
+std::vector<std::string> IniDocument::KeyNames(std::string_view section) const {
+    std::vector<std::string> names;
+    if (const Section* found = Find(section)) {
+        for (const Line& line : found->lines) {
+            if (line.kind == Kind::Key)
+                names.emplace_back(line.Name());
+        }
+    }
+    return names;
+}
+
 void IniDocument::EnsureLastLineEnds() {
     for (auto section = m_sections.rbegin(); section != m_sections.rend(); ++section) {
         if (section->lines.empty())
@@ -220,6 +238,23 @@ bool IniDocument::DeleteSection(std::string_view section) {
             before.push_back(std::move(line));
     }
     m_sections.erase(deleted);
+    Reindex();
+    return true;
+}
+
+bool IniDocument::RenameSection(std::string_view section, std::string_view to) {
+    if (section.empty() || to.empty())
+        return false;
+    auto found = m_firstSection.find(section);
+    auto taken = m_firstSection.find(to);
+    if (found == m_firstSection.end() || (taken != m_firstSection.end() && taken->second != found->second))
+        return false;
+    Line& header = m_sections[found->second].lines.front();
+    if (header.Name() == to)
+        return false;
+    std::string text = header.text;
+    text.replace(header.nameBegin, header.nameLength, to);
+    header = ParseLine(text, header.eol);
     Reindex();
     return true;
 }

@@ -25,10 +25,18 @@ public:
     // removes the spaces around them). The value comes without the blanks and one pair of quotes around it.
     std::optional<std::string> Value(std::string_view section, std::string_view key) const;
 
+    // The names of every section header in order, and the key names of the first section named `section`.
+    std::vector<std::string> SectionNames() const;
+    std::vector<std::string> KeyNames(std::string_view section) const;
+
     // Each returns true when the document's text changed.
     bool SetValue(std::string_view section, std::string_view key, std::string_view value);
     bool DeleteKey(std::string_view section, std::string_view key);
     bool DeleteSection(std::string_view section);
+    // Gives the first section named `section` the name `to` in its header, every other byte of the line and
+    // of the section kept. Refused (false) when another section is named `to` already: the file would then
+    // hold two sections of one name, of which only the first is ever read.
+    bool RenameSection(std::string_view section, std::string_view to);
 
 private:
     enum class Kind : unsigned char { Other, Header, Key };

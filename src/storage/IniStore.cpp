@@ -129,6 +129,8 @@ void IniStore::EndLoad(const std::string& file) noexcept {
 }
 
 bool IniStore::Apply(IniDocument& document, const Change& change) {
+    if (change.renameTo)
+        return document.RenameSection(change.section, *change.renameTo);
     if (!change.key)
         return document.DeleteSection(change.section);
     if (!change.value)
@@ -139,7 +141,20 @@ bool IniStore::Apply(IniDocument& document, const Change& change) {
 platform::WriteFault IniStore::Write(const std::string& file, std::string_view section,
                                      std::optional<std::string_view> key,
                                      std::optional<std::string_view> value) {
-    if (BreaksLines(section, key, value)) {
+    Change change{std::string(section), key ? std::optional<std::string>(*key) : std::nullopt,
+                  value ? std::optional<std::string>(*value) : std::nullopt, std::nullopt};
+    return Record(file, std::move(change), BreaksLines(section, key, value));
+}
+
+platform::WriteFault IniStore::RenameSection(const std::string& file, std::string_view section,
+                                             std::string_view to) {
+    const bool refused =
+        BreaksLines(section, std::nullopt, std::nullopt) || BreaksLines(to, std::nullopt, std::nullopt);
+    return Record(file, Change{std::string(section), std::nullopt, std::nullopt, std::string(to)}, refused);
+}
+
+platform::WriteFault IniStore::Record(const std::string& file, Change change, bool refused) {
+    if (refused) {
         auto found = m_files.find(file);
         if (found != m_files.end() && found->second.updates > 0)
             found->second.refused = true;
@@ -147,8 +162,6 @@ platform::WriteFault IniStore::Write(const std::string& file, std::string_view s
     }
     BeginUpdate(file);
     Entry& entry = m_files[file];
-    Change change{std::string(section), key ? std::optional<std::string>(*key) : std::nullopt,
-                  value ? std::optional<std::string>(*value) : std::nullopt};
     entry.dirty = Apply(entry.document, change) || entry.dirty;
     // Kept even when the copy already holds it: the file may say otherwise by the time it is committed.
     entry.changes.push_back(std::move(change));

@@ -28,6 +28,12 @@ public:
     platform::WriteFault Write(const std::string& file, std::string_view section,
                                std::optional<std::string_view> key, std::optional<std::string_view> value);
 
+    // Gives the first section named `section` the name `to`, its keys and their order kept, as one write:
+    // the file never holds both names or neither. Nothing happens when the section is missing or another
+    // section is named `to`; a name that would break the file's lines is refused as Write refuses it.
+    platform::WriteFault RenameSection(const std::string& file, std::string_view section,
+                                       std::string_view to);
+
     // Between BeginUpdate and the matching EndUpdate, writes to `file` stay in memory; EndUpdate commits
     // them as one replacement of the file. Updates nest. EndUpdate says why the outermost update's writes
     // did not all reach the file (None when they did, or when there was nothing to write; None too for an
@@ -53,8 +59,9 @@ private:
     // One write of an update, kept to be made again on a newer version of the file.
     struct Change {
         std::string section;
-        std::optional<std::string> key;    // nothing deletes the section
-        std::optional<std::string> value;  // nothing deletes the key
+        std::optional<std::string> key;       // nothing deletes the section
+        std::optional<std::string> value;     // nothing deletes the key
+        std::optional<std::string> renameTo;  // the section's new name; key and value are unused then
     };
 
     struct Entry {
@@ -79,6 +86,7 @@ private:
                       std::optional<platform::FileContent>& content);
     static void Take(Entry& entry, platform::FileContent content);
     static bool Apply(IniDocument& document, const Change& change);
+    platform::WriteFault Record(const std::string& file, Change change, bool refused);
     bool Rebase(const std::string& file, Entry& entry);
     platform::WriteFault Commit(const std::string& file, Entry& entry) noexcept;
     platform::WriteFault CommitUnderLock(const std::string& file, Entry& entry);

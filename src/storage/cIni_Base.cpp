@@ -93,6 +93,25 @@ void cIni_Base::Write(const IniKey<int16_t>& key, int16_t value, const char* pro
     Traced(procedure, [&] { WriteIntegerToIni(key.name, value); });
 }
 
+std::string cIni_Base::WritablePath() {
+    const std::optional<std::string_view> path = IniPath(true);
+    if (!path)
+        mError::RaiseError(mError::kInvalidValueWrite, "Invalid value");
+    return std::string(*path);
+}
+
+platform::WriteFault cIni_Base::DeleteSection() const try {
+    return iniFile::Write(WritablePath(), m_section, std::nullopt, std::nullopt);
+} catch (...) {
+    mError::PassOn(Procedure("DeleteSection"));
+}
+
+platform::WriteFault cIni_Base::RenameSection(const std::string& to) const try {
+    return iniFile::RenameSection(WritablePath(), m_section, to);
+} catch (...) {
+    mError::PassOn(Procedure("RenameSection"));
+}
+
 iniFile::Update cIni_Base::BeginSave() const {
     return iniFile::Update(std::string(IniPath(true).value_or(std::string_view())));
 }

@@ -30,6 +30,11 @@ public:
     bool ReadBoolFromIni(std::string_view key, bool defaultValue) const;
     void WriteBoolToIni(std::string_view key, bool value) const;
 
+    // Removes the whole section, or gives it the name `to` with its keys and their order kept; each is one
+    // write of the settings file, and says why it did not reach the file.
+    platform::WriteFault DeleteSection() const;
+    platform::WriteFault RenameSection(const std::string& to) const;
+
     // Opens one update of the settings file: an owner's save becomes a single write of the file.
     iniFile::Update BeginSave() const;
     // Opens one load of the settings file: an owner's reads check the file once.
@@ -64,6 +69,8 @@ private:
 
     // The settings file the installed source names; absent when there is none.
     static std::optional<std::string_view> IniPath(bool forWriting = false);
+    // The file to write to; "Invalid value" when there is none.
+    static std::string WritablePath();
 
     std::string m_module;
     std::string m_section;

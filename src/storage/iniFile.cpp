@@ -30,6 +30,10 @@ platform::WriteFault Write(const std::string& file, std::string_view section,
                          key ? std::optional<std::string_view>(trimmedKey) : std::nullopt, value);
 }
 
+platform::WriteFault RenameSection(const std::string& file, std::string_view section, std::string_view to) {
+    return Store().RenameSection(file, mString::Trim(section), mString::Trim(to));
+}
+
 Update::Update(std::string file) : m_file(std::move(file)) {
     Store().BeginUpdate(m_file);
 }

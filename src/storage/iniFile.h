@@ -24,6 +24,10 @@ std::string Read(std::string_view file, std::string_view section, std::string_vi
 platform::WriteFault Write(const std::string& file, std::string_view section,
                            std::optional<std::string_view> key, std::optional<std::string_view> value);
 
+// Gives the section `section` of `file` the name `to` in one write of the file, its keys and every other
+// byte kept; nothing happens when the section is missing or `to` names another section already.
+platform::WriteFault RenameSection(const std::string& file, std::string_view section, std::string_view to);
+
 // Gathers every write to `file` made while it lives into one atomic update of the file, committed when
 // the last open update ends (also when a failure leaves the scope). The commit takes the file's lock,
 // starts from the file as it is then and makes only these writes, so another copy of the program's

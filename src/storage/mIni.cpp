@@ -29,10 +29,20 @@ void WriteToIni(IniArg file, IniArg section, IniArg key, std::string_view value)
 }
 
 bool ReadBoolFromIni(IniArg file, IniArg section, IniArg key, bool defaultValue) try {
-    std::string text = ReadFromIni(file, section, key, "");
-    return text.empty() ? defaultValue : mString::Trim(text) == "1";
+    return BoolFromText(ReadFromIni(file, section, key, ""), defaultValue);
 } catch (...) {
     mError::PassOn("mIni.ReadBoolFromIni");
+}
+
+bool BoolFromText(const std::string& text, bool defaultValue) {
+    return text.empty() ? defaultValue : mString::Trim(text) == "1";
+}
+
+std::string AsRead(const std::optional<std::string>& stored, std::string_view defaultValue) {
+    std::string text = mString::StripAtNul(stored ? *stored : mString::TrimRight(defaultValue));
+    if (text.size() >= kReadBufferSize)
+        text.resize(kReadBufferSize - 1);
+    return text;
 }
 
 void WriteBoolToIni(IniArg file, IniArg section, IniArg key, bool value) try {

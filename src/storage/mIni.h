@@ -21,6 +21,11 @@ void WriteToIni(IniArg file, IniArg section, IniArg key, std::string_view value)
 // Booleans are stored as "1" and "0"; only "1" (blanks around it allowed) reads as true, and an empty or
 // missing value gives the default.
 bool ReadBoolFromIni(IniArg file, IniArg section, IniArg key, bool defaultValue);
+bool BoolFromText(const std::string& text, bool defaultValue);
+
+// What a read gives for a value found elsewhere than in a file (a profile handed in as text): `stored`, or
+// `defaultValue` when there is none, as through the program's buffer.
+std::string AsRead(const std::optional<std::string>& stored, std::string_view defaultValue);
 void WriteBoolToIni(IniArg file, IniArg section, IniArg key, bool value);
 
 }  // namespace mIni

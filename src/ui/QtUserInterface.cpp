@@ -40,8 +40,21 @@ std::string QtUserInterface::ChooseFolder(int64_t owner, const std::string& titl
     return mFileChooser::FolderOf(dialog);
 }
 
+std::string QtUserInterface::ChooseFileToSave(const OpenFileOptions& options) {
+    QFileDialog dialog(mFileChooser::OwnerWindow(options.owner));
+    mFileChooser::Configure(dialog, options);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    RunModal(dialog);
+    const OpenFileAnswer answer = mFileChooser::AnswerOf(dialog, options);
+    return answer.files.empty() ? std::string() : answer.files.front();
+}
+
 void QtUserInterface::SetClipboardText(const std::string& text) {
     QGuiApplication::clipboard()->setText(QtText::ToQt(text));
+}
+
+std::string QtUserInterface::GetClipboardText() {
+    return QtText::FromQt(QGuiApplication::clipboard()->text());
 }
 
 bool QtUserInterface::ShowEditProfileDialog(int32_t editMode, Profile& profile) {

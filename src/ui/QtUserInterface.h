@@ -11,7 +11,9 @@ public:
     void ShowErrorReport(const ErrorReport& report) override;
     OpenFileAnswer ChooseFileToOpen(const OpenFileOptions& options) override;
     std::string ChooseFolder(int64_t owner, const std::string& title, const std::string& rootFolder) override;
+    std::string ChooseFileToSave(const OpenFileOptions& options) override;
     void SetClipboardText(const std::string& text) override;
+    std::string GetClipboardText() override;
     bool ShowEditProfileDialog(int32_t editMode, Profile& profile) override;
     Profile* ShowLoadProfileDialog() override;
     void ShowSaveDialog() override;

@@ -70,6 +70,12 @@ OpenFileAnswer ModalFileChooser(const OpenFileOptions& options) {
     return FileChooser::Run(options);
 }
 
+std::string ModalSaveChooser(const OpenFileOptions& options) {
+    if (const auto& runner = Runners().saves)
+        return runner(options);
+    return FileChooser::RunSave(options);
+}
+
 std::string ModalFolderChooser(int64_t owner, const std::string& title, const std::string& rootFolder) {
     if (const auto& runner = Runners().folders)
         return runner(title);

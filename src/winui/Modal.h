@@ -59,15 +59,18 @@ int ModalMessageBox(HWND owner, const std::string& text, unsigned style);
 
 // The file-open chooser (GetOpenFileNameA) and the folder chooser (SHBrowseForFolderA).
 OpenFileAnswer ModalFileChooser(const OpenFileOptions& options);
+// The file-save chooser (GetSaveFileNameA): the chosen path, or "" when nothing was chosen.
+std::string ModalSaveChooser(const OpenFileOptions& options);
 std::string ModalFolderChooser(int64_t owner, const std::string& title, const std::string& rootFolder);
 
 // The runners a test plays the user with: `dialogs` gets each modal dialog made and shown modelessly, and
-// ends it by its controls; `boxes` answers each message box, `files` and `folders` each chooser. Without
-// runners (or with an empty one) the real windows open.
+// ends it by its controls; `boxes` answers each message box, `files`, `saves` and `folders` each chooser.
+// Without runners (or with an empty one) the real windows open.
 struct ModalRunners {
     std::function<void(ModalDialog&)> dialogs;
     std::function<int(const std::string& text, unsigned style)> boxes;
     std::function<OpenFileAnswer(const OpenFileOptions&)> files;
+    std::function<std::string(const OpenFileOptions&)> saves;
     std::function<std::string(const std::string& title)> folders;
 };
 void InstallModalRunners(ModalRunners runners);

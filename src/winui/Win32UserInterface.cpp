@@ -41,6 +41,10 @@ std::string Win32UserInterface::ChooseFolder(int64_t owner, const std::string& t
     return ModalFolderChooser(owner, title, rootFolder);
 }
 
+std::string Win32UserInterface::ChooseFileToSave(const OpenFileOptions& options) {
+    return ModalSaveChooser(options);
+}
+
 // The text goes on the clipboard as Unicode, which every program reads, whatever its own code page.
 void Win32UserInterface::SetClipboardText(const std::string& text) {
     if (!OpenClipboard(Owner()))
@@ -55,6 +59,20 @@ void Win32UserInterface::SetClipboardText(const std::string& text) {
             GlobalFree(memory);
     }
     CloseClipboard();
+}
+
+std::string Win32UserInterface::GetClipboardText() {
+    std::string text;
+    if (!OpenClipboard(Owner()))
+        return text;
+    if (HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
+        if (const auto* chars = static_cast<const wchar_t*>(GlobalLock(data))) {
+            text = WinText::Narrow(std::wstring(chars, wcsnlen(chars, GlobalSize(data) / sizeof(wchar_t))));
+            GlobalUnlock(data);
+        }
+    }
+    CloseClipboard();
+    return text;
 }
 
 bool Win32UserInterface::ShowEditProfileDialog(int32_t editMode, Profile& profile) {

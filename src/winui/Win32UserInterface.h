@@ -1,6 +1,6 @@
 // The windows core opens, as Windows shows them: message boxes through MessageBoxA, the choosers through
-// GetOpenFileNameA and SHBrowseForFolderA, the clipboard, the error report, the start confirmation and the
-// profile dialogs. Each opens over the window that is active now.
+// GetOpenFileNameA, GetSaveFileNameA and SHBrowseForFolderA, the clipboard, the error report, the start
+// confirmation and the profile dialogs. Each opens over the window that is active now.
 #pragma once
 
 #include "app/UserInterface.h"
@@ -11,7 +11,9 @@ public:
     void ShowErrorReport(const ErrorReport& report) override;
     OpenFileAnswer ChooseFileToOpen(const OpenFileOptions& options) override;
     std::string ChooseFolder(int64_t owner, const std::string& title, const std::string& rootFolder) override;
+    std::string ChooseFileToSave(const OpenFileOptions& options) override;
     void SetClipboardText(const std::string& text) override;
+    std::string GetClipboardText() override;
     bool ShowEditProfileDialog(int32_t editMode, Profile& profile) override;
     Profile* ShowLoadProfileDialog() override;
     void ShowSaveDialog() override;

@@ -95,6 +95,7 @@ struct WriteCase {
     std::optional<std::string_view> key;
     std::optional<std::string_view> value;
     std::optional<std::string> after;  // nothing: the file still does not exist
+    const char* renameTo = nullptr;    // given: the section is renamed to it instead
 };
 
 class IniWrite : public IniFileTest, public ::testing::WithParamInterface<WriteCase> {};
@@ -105,7 +106,10 @@ TEST_P(IniWrite, ChangesOnlyWhatItMust) {
         dir.Write("test.ini", *c.before);
     // Read first, so the write goes through a parsed copy like it does in the program.
     iniFile::Read(file, c.section, "x", "", 255);
-    iniFile::Write(file, c.section, c.key, c.value);
+    if (c.renameTo)
+        iniFile::RenameSection(file, c.section, c.renameTo);
+    else
+        iniFile::Write(file, c.section, c.key, c.value);
     EXPECT_EQ(std::filesystem::exists(file) ? std::optional(dir.Read("test.ini")) : nullopt, c.after);
 }
 
@@ -133,6 +137,14 @@ const WriteCase kWriteCases[] = {
     {"DeleteFirstOfTwoSections", "[S]\na=1\n[S]\na=2\n", "S", nullopt, nullopt, "[S]\na=2\n"},
     {"DeleteOnMissingFileCreatesNothing", nullopt, "S", "k", nullopt, nullopt},
     {"DeleteSectionOnMissingFileCreatesNothing", nullopt, "S", nullopt, "v", nullopt},
+    {"RenameKeepsKeysOrderAndEveryOtherByte", "[A]\nx=1\n ; c\n [ profile_S ] ; n\r\nb=2\na=1\n[B]\ny=2",
+     "PROFILE_s", nullopt, nullopt, "[A]\nx=1\n ; c\n [ profile_T ] ; n\r\nb=2\na=1\n[B]\ny=2", "profile_T"},
+    {"RenameOnlyTheFirstOfTwo", "[S]\na=1\n[S]\na=2\n", "S", nullopt, nullopt, "[T]\na=1\n[S]\na=2\n", "T"},
+    {"RenameChangesOnlyTheCase", "[S]\na=1\n", "s", nullopt, nullopt, "[s]\na=1\n", "s"},
+    {"RenameOntoAnotherSectionRefused", "[S]\na=1\n[t]\n", "S", nullopt, nullopt, "[S]\na=1\n[t]\n", "T"},
+    {"RenameToABrokenNameRefused", "[S]\n", "S", nullopt, nullopt, "[S]\n", "T]\r\n[U"},
+    {"RenameMissingSectionChangesNothing", "[A]\n", "S", nullopt, nullopt, "[A]\n", "T"},
+    {"RenameOnMissingFileCreatesNothing", nullopt, "S", nullopt, nullopt, nullopt, "T"},
     {"Utf8ByteOrderMarkKept", "\xEF\xBB\xBF[S]\nk=1\n", "S", "k", "2", "\xEF\xBB\xBF[S]\nk=2\r\n"},
     {"Utf16LeWrittenBackAsUtf16Le", std::string("\xFF\xFE[\0S\0]\0", 8), "S", "k", "\xC3\xA4\xF0\x9F\x98\x80",
      std::string("\xFF\xFE[\0S\0]\0\r\0\n\0k\0=\0\xE4\0\x3D\xD8\x00\xDE\r\0\n\0", 26)},

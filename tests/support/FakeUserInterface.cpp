@@ -25,6 +25,11 @@ OpenFileAnswer FakeUserInterface::ChooseFileToOpen(const OpenFileOptions& option
     return Next(fileAnswers, OpenFileAnswer{});
 }
 
+std::string FakeUserInterface::ChooseFileToSave(const OpenFileOptions& options) {
+    saveRequests.push_back(options);
+    return Next(saveAnswers, std::string());
+}
+
 std::string FakeUserInterface::ChooseFolder(int64_t /*owner*/, const std::string& title,
                                             const std::string& rootFolder) {
     folderRequests.push_back(title + "|" + rootFolder);

@@ -20,7 +20,9 @@ public:
     void ShowErrorReport(const ErrorReport& report) override { reports.push_back(report); }
     OpenFileAnswer ChooseFileToOpen(const OpenFileOptions& options) override;
     std::string ChooseFolder(int64_t owner, const std::string& title, const std::string& rootFolder) override;
+    std::string ChooseFileToSave(const OpenFileOptions& options) override;
     void SetClipboardText(const std::string& text) override { clipboard = text; }
+    std::string GetClipboardText() override { return clipboard; }
     bool ShowEditProfileDialog(int32_t editMode, Profile& profile) override;
     Profile* ShowLoadProfileDialog() override;
     void ShowSaveDialog() override { ++saveDialogs; }
@@ -38,6 +40,10 @@ public:
     // The folder chooser's requests as "title|root", and its answer.
     std::vector<std::string> folderRequests;
     std::string folderAnswer;
+
+    // The save chooser's requests, and its answers: cancelled once the script runs out.
+    std::vector<OpenFileOptions> saveRequests;
+    std::deque<std::string> saveAnswers;
 
     std::string clipboard;
 

@@ -31,17 +31,22 @@ protected:
         WriteIni("[PROFILES]\r\nLASTACTIVEPROFILE=profile_A\r\n[profile_A]\r\nTARVOPATH=" + game +
                  "\r\nFREEPLAY=0\r\n[profile_B]\r\nTARVOPATH=" + game + "\r\nREFRESH=3\r\n");
         InstallUserInterface(&winUi);
-        InstallModalRunners(
-            {[this](ModalDialog& dialog) { Answer(dialog); },
-             [this](const std::string& text, unsigned style) { return AnswerBox(text, style); },
-             [this](const OpenFileOptions& options) {
-                 choosers.push_back(options.title);
-                 return chosenFile;
-             },
-             [this](const std::string& title) {
-                 choosers.push_back(title);
-                 return std::string();
-             }});
+        ModalRunners runners;
+        runners.dialogs = [this](ModalDialog& dialog) { Answer(dialog); };
+        runners.boxes = [this](const std::string& text, unsigned style) { return AnswerBox(text, style); };
+        runners.files = [this](const OpenFileOptions& options) {
+            choosers.push_back(options.title);
+            return chosenFile;
+        };
+        runners.saves = [this](const OpenFileOptions& options) {
+            choosers.push_back(options.title);
+            return std::string();
+        };
+        runners.folders = [this](const std::string& title) {
+            choosers.push_back(title);
+            return std::string();
+        };
+        InstallModalRunners(std::move(runners));
         main = Main();
     }
     ~WindowFixture() override {

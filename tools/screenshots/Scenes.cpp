@@ -157,6 +157,10 @@ void RenderProfileDialogs(ScreenshotSession& session) {
     edit.findChild<QLineEdit*>(QStringLiteral("txtDescription"))
         ->setText(QStringLiteral("1920 x 1080, free play"));
     session.Save(edit, QStringLiteral("frmEditProfile"));
+    frmEditProfile duplicate;
+    duplicate.InitDialog(kDuplicateProfileMode, App().Profiles().Item("profile_Race"));
+    duplicate.findChild<QLineEdit*>(QStringLiteral("txtName"))->setText(QStringLiteral("Race (2)"));
+    session.Save(duplicate, QStringLiteral("frmEditProfile_Duplicate"));
 
     frmLoadProfile choose;
     choose.InitDialog();

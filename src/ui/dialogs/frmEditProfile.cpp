@@ -65,18 +65,20 @@ void frmEditProfile::InitDialog(int32_t mode, Profile& profile) try {
     lngEditMode = mode;
     ResetCancel();
     const bool newProfile = mode == kNewProfile;
-    LockNameField(!newProfile);
+    LockNameField(mode == kEditProfileMode);
     txtName->setText(newProfile ? QString() : QtText::ToQt(profile.ProfileCaption()));
     txtDescription->setText(newProfile ? QString() : QtText::ToQt(profile.ProfileDescription()));
     TranslateDialog();
-    (newProfile ? txtName : txtDescription)->setFocus();
+    (mode == kEditProfileMode ? txtDescription : txtName)->setFocus();
+    txtName->selectAll();
 } catch (...) {
     mError::PassOn("frmEditProfile.InitDialog");
 }
 
 void frmEditProfile::TranslateDialog() try {
-    setWindowTitle(QtText::ToQt(
-        TranslateDialogItem(lngEditMode == kNewProfile ? "DIALOG_CAPTION1" : "DIALOG_CAPTION2")));
+    const bool known = lngEditMode >= kNewProfileMode && lngEditMode <= kImportProfileMode;
+    setWindowTitle(
+        QtText::ToQt(TranslateDialogItem("DIALOG_CAPTION" + std::to_string(known ? lngEditMode : 2))));
     MnemonicSet keys;
     lblName->setText(keys.Add(ItemText("LBL_NAME")));
     lblDesc->setText(keys.Add(ItemText("LBL_DESCRIPTION")));
@@ -87,7 +89,8 @@ void frmEditProfile::TranslateDialog() try {
 }
 
 bool frmEditProfile::CheckInput() try {
-    const auto problem = ProfileInput::Check(lngEditMode == kNewProfile, QtText::FromQt(txtName->text()),
+    // A locked name is the profile's own and was stored before; only one typed here can be refused.
+    const auto problem = ProfileInput::Check(!txtName->isReadOnly(), QtText::FromQt(txtName->text()),
                                              QtText::FromQt(txtDescription->text()));
     if (!problem)
         return true;

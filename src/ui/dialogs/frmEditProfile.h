@@ -1,10 +1,12 @@
-// Creates a profile (mode 1) or edits an existing one's description: the name field, the description
-// field, OK and Cancel. The name becomes the profile's section name behind "profile_" in both modes.
+// Creates a profile (mode 1), edits an existing one's description (2), or names a profile that is renamed,
+// duplicated or handed in as text (3 to 5, see EditProfileMode): the name field, the description field, OK
+// and Cancel. The name becomes the profile's section name behind "profile_" in every mode.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
+#include "app/UserInterface.h"
 #include "ui/dialogs/ModalDialog.h"
 
 class Profile;
@@ -16,7 +18,7 @@ class frmEditProfile : public ModalDialog {
     Q_OBJECT
 
 public:
-    static constexpr int32_t kNewProfile = 1;
+    static constexpr int32_t kNewProfile = kNewProfileMode;
 
     explicit frmEditProfile(QWidget* parent = nullptr);
 

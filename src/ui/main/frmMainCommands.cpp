@@ -16,6 +16,7 @@
 #include "mainwindow/frmMainRules.h"
 #include "platform/Platform.h"
 #include "profiles/Profile.h"
+#include "profiles/mManageProfiles.h"
 #include "translate/cTranslate.h"
 #include "ui/EntryPoint.h"
 #include "ui/QtText.h"
@@ -73,6 +74,17 @@ void frmMain::mnuFile_Quit_Click() {
     close();
 }
 
+// The commands on whole profiles act on the profile with the window's input written into it.
+void frmMain::mnuFile_ImportProfile_Click() {
+    RefreshProfileData();
+    ShowMadeProfile(mManageProfiles::ImportProfile(Owner(this)));
+}
+
+void frmMain::mnuFile_ExportProfile_Click() {
+    RefreshProfileData();
+    mManageProfiles::ExportProfile(*App().ActiveProfile(), Owner(this));
+}
+
 void frmMain::mnuFile_SendFeedback_Click() {
     App().ContactAuthor(Owner(this));
 }
@@ -89,6 +101,29 @@ void frmMain::mnuProfile_Edit_Click() {
     dialog.ShowModal();
 }
 
+void frmMain::mnuProfile_Rename_Click() {
+    RefreshProfileData();
+    if (mManageProfiles::RenameProfile(*App().ActiveProfile()))
+        FillProfileList();
+}
+
+void frmMain::mnuProfile_Duplicate_Click() {
+    RefreshProfileData();
+    ShowMadeProfile(mManageProfiles::DuplicateProfile(*App().ActiveProfile()));
+}
+
+// Deleting the active profile shows the standard profile, which took its place.
+void frmMain::mnuProfile_Delete_Click() {
+    RefreshProfileData();
+    if (mManageProfiles::DeleteProfile(*App().ActiveProfile()))
+        LoadData(*App().ActiveProfile());
+}
+
+void frmMain::ShowMadeProfile(Profile* profile) {
+    if (profile != nullptr)
+        LoadData(*profile);
+}
+
 // The edits of the profile shown so far stay with it before the other one is shown.
 void frmMain::mnuProfile_List_Click(int index) {
     RefreshProfileData();
@@ -96,15 +131,30 @@ void frmMain::mnuProfile_List_Click(int index) {
     LoadData(App().Profiles().Item(name));
 }
 
+// The window may rename, duplicate or delete profiles: the active one (a copy, or the standard profile in the
+// place of a deleted one) is then shown afresh, with the menu listing the profiles as they are.
 void frmMain::mnuProfil_Manager_Click() {
+    RefreshProfileData();
     frmProfiles dialog(this);
     dialog.InitDialog();
     dialog.ShowModal();
+    if (dialog.ProfilesChanged())
+        LoadData(*App().ActiveProfile());
 }
 
 void frmMain::mnuEditCopy_CmdLine_Click() {
     Ui().SetClipboardText(
         frmMainRules::CleanText(App().ActiveProfile()->TarvolinPath() + GetCmdLineParameters()));
+}
+
+void frmMain::mnuEditCopy_Profile_Click() {
+    RefreshProfileData();
+    mManageProfiles::CopyProfile(*App().ActiveProfile());
+}
+
+void frmMain::mnuEditPaste_Profile_Click() {
+    RefreshProfileData();
+    ShowMadeProfile(mManageProfiles::PasteProfile());
 }
 
 // The wizard gets the profile with the window's input written into it.
@@ -239,11 +289,18 @@ void frmMain::ConnectCommands() {
     const std::tuple<QAction*, void (frmMain::*)(), const char*> actions[] = {
         {mnuFile_Save, &frmMain::mnuFile_Save_Click, "frmMain.mnuFile_Save_Click"},
         {mnuFile_Quit, &frmMain::mnuFile_Quit_Click, "frmMain.mnuFile_Quit_Click"},
+        {mnuFile_ImportProfile, &frmMain::mnuFile_ImportProfile_Click, "frmMain.mnuFile_ImportProfile_Click"},
+        {mnuFile_ExportProfile, &frmMain::mnuFile_ExportProfile_Click, "frmMain.mnuFile_ExportProfile_Click"},
         {mnuFile_SendFeedback, &frmMain::mnuFile_SendFeedback_Click, "frmMain.mnuFile_SendFeedback_Click"},
         {mnuProfile_New, &frmMain::mnuProfile_New_Click, "frmMain.mnuProfile_New_Click"},
         {mnuProfile_Edit, &frmMain::mnuProfile_Edit_Click, "frmMain.mnuProfile_Edit_Click"},
+        {mnuProfile_Rename, &frmMain::mnuProfile_Rename_Click, "frmMain.mnuProfile_Rename_Click"},
+        {mnuProfile_Duplicate, &frmMain::mnuProfile_Duplicate_Click, "frmMain.mnuProfile_Duplicate_Click"},
+        {mnuProfile_Delete, &frmMain::mnuProfile_Delete_Click, "frmMain.mnuProfile_Delete_Click"},
         {mnuProfil_Manager, &frmMain::mnuProfil_Manager_Click, "frmMain.mnuProfil_Manager_Click"},
         {mnuEditCopy_CmdLine, &frmMain::mnuEditCopy_CmdLine_Click, "frmMain.mnuEditCopy_CmdLine_Click"},
+        {mnuEditCopy_Profile, &frmMain::mnuEditCopy_Profile_Click, "frmMain.mnuEditCopy_Profile_Click"},
+        {mnuEditPaste_Profile, &frmMain::mnuEditPaste_Profile_Click, "frmMain.mnuEditPaste_Profile_Click"},
         {mnuExtra_CreateShortcut, &frmMain::mnuExtra_CreateShortcut_Click,
          "frmMain.mnuExtra_CreateShortcut_Click"},
         {mnuExtra_Options, &frmMain::mnuExtra_Options_Click, "frmMain.mnuExtra_Options_Click"},

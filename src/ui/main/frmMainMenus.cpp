@@ -62,10 +62,16 @@ void frmMain::CreateMenus() {
     mnuFile = menuBar()->addMenu(NewMenu(this, "mnuFile"))->menu();
     mnuFile_Save = NewAction(mnuFile, "mnuFile_Save");
     mnuFile->addSeparator();
+    mnuFile_ImportProfile = NewAction(mnuFile, "mnuFile_ImportProfile");
+    mnuFile_ExportProfile = NewAction(mnuFile, "mnuFile_ExportProfile");
+    mnuFile->addSeparator();
     mnuFile_Quit = NewAction(mnuFile, "mnuFile_Quit");
     mnuFile_Profiles = menuBar()->addMenu(NewMenu(this, "mnuFile_Profiles"))->menu();
     mnuProfile_New = NewAction(mnuFile_Profiles, "mnuProfile_New");
     mnuProfile_Edit = NewAction(mnuFile_Profiles, "mnuProfile_Edit");
+    mnuProfile_Rename = NewAction(mnuFile_Profiles, "mnuProfile_Rename");
+    mnuProfile_Duplicate = NewAction(mnuFile_Profiles, "mnuProfile_Duplicate");
+    mnuProfile_Delete = NewAction(mnuFile_Profiles, "mnuProfile_Delete");
     mnuProfil_Manager = NewAction(mnuFile_Profiles, "mnuProfil_Manager");
     mnuFile_Profiles->addSeparator();
     connect(mnuFile_Profiles, &QMenu::aboutToShow, this, [this] {
@@ -77,6 +83,9 @@ void frmMain::CreateMenus() {
     });
     mnuEdit = menuBar()->addMenu(NewMenu(this, "mnuEdit"))->menu();
     mnuEditCopy_CmdLine = NewAction(mnuEdit, "mnuEditCopy_CmdLine");
+    mnuEdit->addSeparator();
+    mnuEditCopy_Profile = NewAction(mnuEdit, "mnuEditCopy_Profile");
+    mnuEditPaste_Profile = NewAction(mnuEdit, "mnuEditPaste_Profile");
     mnuExtra = menuBar()->addMenu(NewMenu(this, "mnuExtra"))->menu();
     mnuExtra_CreateShortcut = NewAction(mnuExtra, "mnuExtra_CreateShortcut");
     mnuOptions_Lang = NewMenu(this, "mnuOptions_Lang");

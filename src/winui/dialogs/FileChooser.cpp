@@ -45,36 +45,60 @@ std::vector<std::string> FilesOf(const std::string& buffer) {
 
 }  // namespace
 
-OpenFileAnswer Run(const OpenFileOptions& options) {
-    const std::size_t size = options.multiSelect ? 8192 : 260;
-    std::string file = options.fileName.substr(0, size - 1);
-    file.resize(size, '\0');
-    const std::string filter = FilterOf(options.filter);
-    const std::string extension = options.defaultExtension.substr(options.defaultExtension.starts_with('.'));
+namespace {
+
+// The record both choosers are given, over the buffers that live as long as the call.
+struct Record {
+    explicit Record(const OpenFileOptions& options)
+        : file(options.fileName.substr(0, Size(options) - 1)),
+          filter(FilterOf(options.filter)),
+          extension(options.defaultExtension.substr(options.defaultExtension.starts_with('.'))) {
+        file.resize(Size(options), '\0');
+        record.lStructSize = sizeof record;
+        record.hwndOwner = OwnerOf(options.owner);
+        record.lpstrFilter = options.filter.empty() ? nullptr : filter.c_str();
+        record.nFilterIndex = static_cast<DWORD>(options.filterIndex);
+        record.lpstrFile = file.data();
+        record.nMaxFile = static_cast<DWORD>(file.size());
+        record.lpstrInitialDir =
+            options.initialDirectory.empty() ? nullptr : options.initialDirectory.c_str();
+        record.lpstrTitle = options.title.empty() ? nullptr : options.title.c_str();
+        record.lpstrDefExt = extension.empty() ? nullptr : extension.c_str();
+        record.Flags = OFN_EXPLORER | (options.readOnlyChecked ? OFN_READONLY : 0) |
+                       (options.hideReadOnly ? OFN_HIDEREADONLY : 0);
+    }
+    static std::size_t Size(const OpenFileOptions& options) { return options.multiSelect ? 8192 : 260; }
+
+    std::string file;
+    std::string filter;
+    std::string extension;
     OPENFILENAMEA record{};
-    record.lStructSize = sizeof record;
-    record.hwndOwner = OwnerOf(options.owner);
-    record.lpstrFilter = options.filter.empty() ? nullptr : filter.c_str();
-    record.nFilterIndex = static_cast<DWORD>(options.filterIndex);
-    record.lpstrFile = file.data();
-    record.nMaxFile = static_cast<DWORD>(size);
-    record.lpstrInitialDir = options.initialDirectory.empty() ? nullptr : options.initialDirectory.c_str();
-    record.lpstrTitle = options.title.empty() ? nullptr : options.title.c_str();
-    record.lpstrDefExt = extension.empty() ? nullptr : extension.c_str();
-    record.Flags = OFN_EXPLORER | (options.fileMustExist ? OFN_FILEMUSTEXIST : 0) |
-                   (options.multiSelect ? OFN_ALLOWMULTISELECT : 0) |
-                   (options.readOnlyChecked ? OFN_READONLY : 0) |
-                   (options.hideReadOnly ? OFN_HIDEREADONLY : 0);
+};
+
+}  // namespace
+
+OpenFileAnswer Run(const OpenFileOptions& options) {
+    Record chooser(options);
+    chooser.record.Flags |=
+        (options.fileMustExist ? OFN_FILEMUSTEXIST : 0) | (options.multiSelect ? OFN_ALLOWMULTISELECT : 0);
     OpenFileAnswer answer;
-    if (GetOpenFileNameA(&record)) {
+    if (GetOpenFileNameA(&chooser.record)) {
         answer.outcome = OpenFileAnswer::Outcome::kChosen;
-        answer.files = FilesOf(file);
-        answer.readOnlyChecked = (record.Flags & OFN_READONLY) != 0;
+        answer.files = FilesOf(chooser.file);
+        answer.readOnlyChecked = (chooser.record.Flags & OFN_READONLY) != 0;
     } else if (const DWORD error = CommDlgExtendedError(); error != 0) {
         answer.outcome = OpenFileAnswer::Outcome::kFailed;
         answer.errorCode = static_cast<int32_t>(error);
     }
     return answer;
+}
+
+std::string RunSave(const OpenFileOptions& options) {
+    Record chooser(options);
+    chooser.record.Flags |= OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY;
+    if (!GetSaveFileNameA(&chooser.record))
+        return {};
+    return chooser.file.substr(0, chooser.file.find('\0'));
 }
 
 std::string RunFolder(int64_t owner, const std::string& title, const std::string& rootFolder) {

@@ -12,6 +12,8 @@
 namespace FileChooser {
 
 OpenFileAnswer Run(const OpenFileOptions& options);
+// GetSaveFileNameA, which asks before it lets an existing file be replaced.
+std::string RunSave(const OpenFileOptions& options);
 std::string RunFolder(int64_t owner, const std::string& title, const std::string& rootFolder);
 
 }  // namespace FileChooser

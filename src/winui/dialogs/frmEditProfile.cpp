@@ -18,16 +18,18 @@ void frmEditProfile::InitDialog(int lngEditMode, Profile& oProfile) {
 }
 
 void frmEditProfile::OnShow() {
-    const bool newProfile = m_editMode == kNewProfile;
-    SendMessageA(Item(IDC_txtName), EM_SETREADONLY, !newProfile, 0);
+    const bool newProfile = m_editMode == kNewProfileMode;
+    const bool locked = m_editMode == kEditProfileMode;
+    SendMessageA(Item(IDC_txtName), EM_SETREADONLY, locked, 0);
     WinText::SetItem(Handle(), IDC_txtName, newProfile ? "" : m_profile->ProfileCaption());
     WinText::SetItem(Handle(), IDC_txtProfileDescription, newProfile ? "" : m_profile->ProfileDescription());
-    SetFocus(Item(newProfile ? IDC_txtName : IDC_txtProfileDescription));
+    SetFocus(Item(locked ? IDC_txtProfileDescription : IDC_txtName));
+    SendMessageA(Item(IDC_txtName), EM_SETSEL, 0, -1);
 }
 
 void frmEditProfile::TranslateDialog() try {
-    WinText::Set(Handle(),
-                 TranslateDialogItem(m_editMode == kNewProfile ? "DIALOG_CAPTION1" : "DIALOG_CAPTION2"));
+    const bool known = m_editMode >= kNewProfileMode && m_editMode <= kImportProfileMode;
+    WinText::Set(Handle(), TranslateDialogItem("DIALOG_CAPTION" + std::to_string(known ? m_editMode : 2)));
     Mnemonics keys = WinText::KeySet();
     WinText::SetItem(Handle(), IDC_lblName, keys.Add(TranslateDialogItem("LBL_NAME")));
     WinText::SetItem(Handle(), IDC_lblDesc, keys.Add(TranslateDialogItem("LBL_DESCRIPTION")));
@@ -38,8 +40,9 @@ void frmEditProfile::TranslateDialog() try {
 }
 
 bool frmEditProfile::CheckInput() try {
-    const auto problem = ProfileInput::Check(m_editMode == kNewProfile, WinText::Item(Handle(), IDC_txtName),
-                                             WinText::Item(Handle(), IDC_txtProfileDescription));
+    const auto problem =
+        ProfileInput::Check(m_editMode != kEditProfileMode, WinText::Item(Handle(), IDC_txtName),
+                            WinText::Item(Handle(), IDC_txtProfileDescription));
     if (!problem)
         return true;
     Ui().MsgBox(TranslateDialogItem(problem->key), vbOKOnly);

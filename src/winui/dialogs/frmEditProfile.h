@@ -1,5 +1,5 @@
-// The profile dialog: the name and description of a new profile, or the description of the active one
-// (its name is shown locked).
+// The profile dialog: the name and description of a new profile, or of one renamed, copied or handed in as
+// text, or the description of the active one (its name is shown locked).
 #pragma once
 
 #include "winui/Modal.h"
@@ -8,8 +8,6 @@ class Profile;
 
 class frmEditProfile : public ModalDialog {
 public:
-    static constexpr int kNewProfile = 1;
-
     frmEditProfile();
     void InitDialog(int lngEditMode, Profile& oProfile);
 
@@ -21,6 +19,6 @@ protected:
 private:
     bool CheckInput();
 
-    int m_editMode = kNewProfile;
+    int m_editMode = kNewProfileMode;
     Profile* m_profile = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include "app/UserInterface.h"
 #include "error/mError.h"
 #include "mainwindow/frmMainRules.h"
 #include "resource.h"
@@ -13,23 +14,8 @@ namespace {
 
 constexpr int kSizeDigits = 5;
 
-bool AllDigits(const std::wstring& text) {
-    return text.find_first_not_of(L"0123456789") == std::wstring::npos;
-}
-
-// The clipboard's text, when it holds any.
-std::wstring ClipboardText(HWND owner) {
-    std::wstring text;
-    if (!OpenClipboard(owner))
-        return text;
-    if (HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
-        if (const auto* chars = static_cast<const wchar_t*>(GlobalLock(data))) {
-            text = chars;
-            GlobalUnlock(data);
-        }
-    }
-    CloseClipboard();
-    return text;
+bool AllDigits(const std::string& text) {
+    return text.find_first_not_of("0123456789") == std::string::npos;
 }
 
 }  // namespace
@@ -52,14 +38,14 @@ void DisplayPage::OnInit() {
 void DisplayPage::WatchSizeField(int id, const char* trail) {
     const HWND field = Item(id);
     SendMessageA(field, EM_LIMITTEXT, kSizeDigits, 0);
-    Subclass(field, trail, [this, field](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
+    Subclass(field, trail, [this](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
         if (message == WM_CHAR && frmMainRules::TypesIntoResolutionField(static_cast<int>(wParam))) {
             ChooseMode(1);
             if (!frmMainRules::IsResolutionKey(static_cast<int>(wParam)))
                 return 0;
         } else if (message == WM_LBUTTONDOWN) {
             ChooseMode(1);
-        } else if (message == WM_PASTE && !AllDigits(ClipboardText(field))) {
+        } else if (message == WM_PASTE && !AllDigits(Ui().GetClipboardText())) {
             MessageBeep(MB_OK);
             return 0;
         }

@@ -12,15 +12,6 @@
 
 namespace {
 
-// The rows of a window's profile list, a selected one marked with "*".
-QStringList Captions(const QWidget& window) {
-    const auto* list = Find<QTreeWidget>(window, "ListView1");
-    QStringList captions;
-    for (int i = 0; i < list->topLevelItemCount(); ++i)
-        captions << list->topLevelItem(i)->text(0) + (list->topLevelItem(i)->isSelected() ? "*" : "");
-    return captions;
-}
-
 // Message boxes are answered with OK and remembered; `window` answers every other window.
 class ProfileDialogsTest : public UiFixture {
 protected:

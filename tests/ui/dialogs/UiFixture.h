@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTreeWidget>
 #include <functional>
 
 #include "app/Application.h"
@@ -28,6 +29,15 @@ T* Find(const QWidget& window, const char* name) {
     T* found = window.findChild<T*>(name);
     EXPECT_NE(found, nullptr) << name;
     return found;
+}
+
+// The rows of a window's profile list, a selected one marked with "*".
+inline QStringList Captions(const QWidget& window) {
+    const auto* list = Find<QTreeWidget>(window, "ListView1");
+    QStringList captions;
+    for (int i = 0; i < list->topLevelItemCount(); ++i)
+        captions << list->topLevelItem(i)->text(0) + (list->topLevelItem(i)->isSelected() ? "*" : "");
+    return captions;
 }
 
 class UiFixture : public AppFixture {
