@@ -128,7 +128,14 @@ void frmError::OnCommand(int id, int code) {
     }
 }
 
-std::optional<INT_PTR> frmError::OnMessage(UINT message, WPARAM, LPARAM lParam) {
+// The pages' texts lie on the tab strip's body, which visual styles draw in the window colour.
+std::optional<INT_PTR> frmError::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CTLCOLORSTATIC && reinterpret_cast<HWND>(lParam) != Item(IDC_txtDescription) &&
+        reinterpret_cast<HWND>(lParam) != Item(IDC_lblDescription)) {
+        SetBkColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_WINDOW));
+        SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_WINDOWTEXT));
+        return reinterpret_cast<INT_PTR>(GetSysColorBrush(COLOR_WINDOW));
+    }
     const auto* notice = reinterpret_cast<const NMHDR*>(lParam);
     if (message == WM_NOTIFY && notice->idFrom == IDC_TabStrip1 && notice->code == TCN_SELCHANGE)
         mError::AsEntryPoint("frmError.TabStrip1_Click",

@@ -66,7 +66,17 @@ void frmMain::OnInit() {
         SetWindowPos(picPage[i]->Handle(), after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         after = picPage[i]->Handle();
     }
+    // The layout is the room inside the window; the menu bar takes its height from there unless the
+    // window grows by it.
+    RECT before{};
+    GetClientRect(Handle(), &before);
     CreateMenus();
+    RECT inside{};
+    GetClientRect(Handle(), &inside);
+    RECT outside{};
+    GetWindowRect(Handle(), &outside);
+    SetWindowPos(Handle(), nullptr, 0, 0, outside.right - outside.left,
+                 outside.bottom - outside.top + before.bottom - inside.bottom, SWP_NOMOVE | SWP_NOZORDER);
 }
 
 void frmMain::InitDialog() try {
