@@ -9,7 +9,7 @@ PAVONEL_WINESERVER=/usr/lib/wine/wineserver
 # Fills folder $1 with the built programs named after it ($2...), config\, doc\ and a demo game: the
 # Windows stand-in as game\tarvolin.exe, two scenarios, two graphic paks and a log file.
 pavonel_windows_folder() {
-    local folder=$1 bin="$PAVONEL_ROOT/build/windows/bin"
+    local folder=$1 bin="$PAVONEL_ROOT/build/windows/bin" program
     shift
     mkdir -p "$folder/game/Scenarios/Alpine Loop" "$folder/game/Scenarios/Harbour Line"
     for program in "$@"; do cp "$bin/$program" "$folder/"; done
