@@ -84,8 +84,14 @@ protected:
     }
     std::string Text(int id) const { return WinText::Of(Control(id)); }
     void Click(int id) const { SendMessageA(Control(id), BM_CLICK, 0, 0); }
-    // A menu entry chosen, as Windows reports it once the menu has closed.
-    void Choose(int id) const { SendMessageA(main->Handle(), WM_COMMAND, MAKEWPARAM(id, 0), 0); }
+    // A menu entry chosen, as Windows reports it once the menu has closed; the menus were opened first, as a
+    // user opens them to choose.
+    void Choose(int id) const {
+        HMENU bar = GetMenu(main->Handle());
+        for (int i = 0; i < GetMenuItemCount(bar); ++i)
+            SendMessageA(main->Handle(), WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(GetSubMenu(bar, i)), i);
+        SendMessageA(main->Handle(), WM_COMMAND, MAKEWPARAM(id, 0), 0);
+    }
     // Keys typed into a field, as the keyboard sends them.
     void Type(int id, const std::string& keys) const {
         SetFocus(Control(id));

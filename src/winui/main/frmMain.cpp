@@ -79,11 +79,9 @@ void frmMain::OnInit() {
                  outside.bottom - outside.top + before.bottom - inside.bottom, SWP_NOMOVE | SWP_NOZORDER);
 }
 
+// The menus are made with their texts, the language and accessories menus with them.
 void frmMain::InitDialog() try {
-    InitLanguageList();
     TranslateDialog();
-    FillProfileList();
-    RefreshAccessoriesMenu();
     ucTab1_Click(0);
 } catch (...) {
     mError::PassOn("frmMain.InitDialog");
@@ -264,6 +262,10 @@ std::optional<INT_PTR> frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lP
         case kFocusLater:
             SetFocus(reinterpret_cast<HWND>(wParam));
             return TRUE;
+        case WM_INITMENUPOPUP:
+            if (reinterpret_cast<HMENU>(wParam) == mnuFile_Profiles)
+                ShowProfileList();
+            return std::nullopt;
         case WM_CLOSE:
             Form_QueryUnloadAndClose();
             return TRUE;

@@ -93,6 +93,7 @@ private:
     void CreateMenus();
     void TranslateMenus();
     void FillProfileList();
+    void ShowProfileList();
     void InitLanguageList();
     void HighligthSelectedLanguage();
     void RefreshAccessoriesMenu();
@@ -113,5 +114,6 @@ private:
     std::vector<std::string> m_profileTags;   // the profile menu's items, by their names
     std::vector<std::string> m_languageTags;  // the language menu's items, by their abbreviations
 
-    bool m_unloaded = false;  // Form_Unload ran: the program-wide objects are closed
+    bool m_profileListShown = false;  // the profile menu's items show the profiles as they are
+    bool m_unloaded = false;          // Form_Unload ran: the program-wide objects are closed
 };

@@ -47,8 +47,12 @@ std::vector<std::string> AddBuilt(HMENU menu, int first, const std::vector<frmMa
 
 }  // namespace
 
+// The bar with its five menus, so that the window makes room for it at once; TranslateMenus fills it.
 void frmMain::CreateMenus() {
-    TranslateMenus();
+    HMENU bar = CreateMenu();
+    for (int i = 0; i < 5; ++i)
+        AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(CreatePopupMenu()), "-");
+    SetMenu(Handle(), bar);
 }
 
 // The menu texts of the language files carry their own "&" letters.
@@ -59,6 +63,7 @@ void frmMain::TranslateMenus() {
     AppendMenuA(file, MF_SEPARATOR, 0, nullptr);
     Add(file, IDM_mnuFile_Quit, "MNU_FILE_QUIT");
     mnuFile_Profiles = AddPopup(bar, "MNU_PROFILES");
+    m_profileListShown = false;
     HMENU edit = AddPopup(bar, "MNU_EDIT");
     Add(edit, IDM_mnuEditCopy_CmdLine, "MNU_EDIT_COPYCMDLINE");
     mnuExtra = AddPopup(bar, "MNU_EXTRA");
@@ -72,7 +77,16 @@ void frmMain::TranslateMenus() {
     HideFAQMenu();
 }
 
-void frmMain::FillProfileList() try {
+// The items are made when the menu opens: with a thousand profiles they would be most of the window's
+// start, and nobody sees them before.
+void frmMain::FillProfileList() {
+    m_profileListShown = false;
+}
+
+void frmMain::ShowProfileList() try {
+    if (m_profileListShown)
+        return;
+    m_profileListShown = true;
     while (GetMenuItemCount(mnuFile_Profiles) > 0)
         DeleteMenu(mnuFile_Profiles, 0, MF_BYPOSITION);
     Add(mnuFile_Profiles, IDM_mnuProfile_New, "MNU_PROFILES_NEW");
@@ -81,9 +95,8 @@ void frmMain::FillProfileList() try {
     AppendMenuA(mnuFile_Profiles, MF_SEPARATOR, 0, nullptr);
     m_profileTags = AddBuilt(mnuFile_Profiles, IDM_mnuProfile_List_0,
                              frmMainLists::ProfileMenuItems(App().Profiles(), App().ActiveProfile()));
-    DrawMenuBar(Handle());
 } catch (...) {
-    mError::PassOn("frmMain.FillProfileList");
+    mError::ShowError("frmMain.FillProfileList");
 }
 
 // The extra menu: the language list, and the accessories when the language editor is there.

@@ -58,8 +58,16 @@ Gdiplus::Color Colour(uint32_t rgb) {
 }  // namespace
 
 void ucResolutionPreview::SetResolution(int16_t width, int16_t height, bool windowLook) try {
+    m_pending = Resolution{width, height, windowLook};
+    if (m_control != nullptr && IsWindowVisible(m_control))
+        InvalidateRect(m_control, nullptr, FALSE);
+} catch (...) {
+    mError::ShowError("ucResolutionPreview.SetResolution");
+}
+
+void ucResolutionPreview::LayOut(const Resolution& resolution) {
     Gdiplus::Bitmap* picture = SamplePicture();
-    if (picture == nullptr || m_control == nullptr)
+    if (picture == nullptr)
         return;
     RECT client{};
     GetClientRect(m_control, &client);
@@ -68,16 +76,18 @@ void ucResolutionPreview::SetResolution(int16_t width, int16_t height, bool wind
                                       MulDiv(client.bottom, USER_DEFAULT_SCREEN_DPI, dpi)};
     const PreviewLayout::Size natural{static_cast<int>(picture->GetWidth()) / kStoredScale,
                                       static_cast<int>(picture->GetHeight()) / kStoredScale};
-    if (auto layout = PreviewLayout::For(control, natural, width, height, windowLook)) {
+    if (auto layout = PreviewLayout::For(control, natural, resolution.width, resolution.height,
+                                         resolution.windowLook)) {
         m_layout = layout;
-        m_windowLook = windowLook;
-        InvalidateRect(m_control, nullptr, FALSE);
+        m_windowLook = resolution.windowLook;
     }
-} catch (...) {
-    mError::ShowError("ucResolutionPreview.SetResolution");
 }
 
-void ucResolutionPreview::Paint(const DRAWITEMSTRUCT& item) const {
+void ucResolutionPreview::Paint(const DRAWITEMSTRUCT& item) {
+    if (m_pending) {
+        LayOut(*m_pending);
+        m_pending.reset();
+    }
     Gdiplus::Graphics graphics(item.hDC);
     const RECT& box = item.rcItem;
     const int width = box.right - box.left;
