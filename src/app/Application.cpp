@@ -41,6 +41,8 @@ const char* SaveFaultKey(platform::WriteFault fault) {
             return "ERR_SaveDiskFull";
         case platform::WriteFault::LineBreak:
             return "ERR_SaveLineBreak";
+        case platform::WriteFault::NameTaken:
+            return "ERR_SaveNameTaken";
         case platform::WriteFault::None:
         case platform::WriteFault::WriteFailed:
             break;

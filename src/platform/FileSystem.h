@@ -73,6 +73,7 @@ enum class WriteFault {
     DiskFull,        // no space left, or a quota or size limit reached
     WriteFailed,     // any other failure of the disk
     LineBreak,       // the text would have broken the file's lines: refused
+    NameTaken,       // a section was to be renamed onto another's name: the whole update was refused
 };
 
 // What keeps ReplaceFile from writing `path`, or None when it may: its folder exists and is writable, and

@@ -7,6 +7,7 @@
 #include "app/Application.h"
 #include "app/PublicObjects.h"
 #include "app/UserInterface.h"
+#include "base/mString.h"
 #include "error/mError.h"
 #include "platform/FileSystem.h"
 #include "profiles/Profile.h"
@@ -119,9 +120,12 @@ bool RenameProfile(Profile& profile) try {
     named.SetProfileDescription(profile.ProfileDescription());
     if (!AskForFreeName(kRenameProfileMode, named, &profile))
         return false;
+    // The description changes with the name, and stays as it was when the file refused the rename.
+    if (named.ProfileName() != profile.ProfileName() &&
+        !Written(App().Profiles().Rename(profile, named.ProfileName())))
+        return false;
     profile.SetProfileDescription(named.ProfileDescription());
-    return named.ProfileName() == profile.ProfileName() ||
-           Written(App().Profiles().Rename(profile, named.ProfileName()));
+    return true;
 } catch (...) {
     mError::PassOn("mManageProfiles.RenameProfile");
 }
@@ -167,6 +171,11 @@ void ExportProfile(const Profile& profile, int64_t owner) try {
     const std::string file = Ui().ChooseFileToSave(options);
     if (file.empty())
         return;
+    // The settings file itself would lose every other profile.
+    if (mString::EqualsNoCase(platform::WriteTargetOf(file), platform::WriteTargetOf(App().IniPath()))) {
+        Tell("ERR_ProfileNotExported", file, Text("ERROR_MESSAGES", "ERR_ExportOntoSettings"));
+        return;
+    }
     platform::WriteFault fault = platform::ReplaceObstacle(file);
     if (fault == platform::WriteFault::None &&
         !platform::ReplaceFile(file, ProfileSnippet::Format(profile), &fault) &&

@@ -242,6 +242,12 @@ bool IniDocument::DeleteSection(std::string_view section) {
     return true;
 }
 
+bool IniDocument::RenameBlocked(std::string_view section, std::string_view to) const {
+    auto found = m_firstSection.find(section);
+    auto taken = m_firstSection.find(to);
+    return found != m_firstSection.end() && taken != m_firstSection.end() && taken->second != found->second;
+}
+
 bool IniDocument::RenameSection(std::string_view section, std::string_view to) {
     if (section.empty() || to.empty())
         return false;

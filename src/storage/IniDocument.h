@@ -37,6 +37,8 @@ public:
     // of the section kept. Refused (false) when another section is named `to` already: the file would then
     // hold two sections of one name, of which only the first is ever read.
     bool RenameSection(std::string_view section, std::string_view to);
+    // True when `to` names another section than `section`, which a rename must not take.
+    bool RenameBlocked(std::string_view section, std::string_view to) const;
 
 private:
     enum class Kind : unsigned char { Other, Header, Key };

@@ -110,10 +110,16 @@ platform::WriteFault IniStore::EndUpdate(const std::string& file) noexcept {
     Entry& entry = found->second;
     if (--entry.updates > 0)
         return platform::WriteFault::None;
+    const platform::WriteFault refusal = std::exchange(entry.refusal, platform::WriteFault::None);
+    // A rename onto a name that is taken would leave the update's other writes pointing at a profile that is
+    // not there: none of them is written.
+    if (refusal == platform::WriteFault::NameTaken) {
+        Forget(entry);
+        return refusal;
+    }
     const platform::WriteFault fault =
         entry.changes.empty() ? platform::WriteFault::None : Commit(file, entry);
-    const bool refused = std::exchange(entry.refused, false);
-    return fault == platform::WriteFault::None && refused ? platform::WriteFault::LineBreak : fault;
+    return fault == platform::WriteFault::None ? refusal : fault;
 }
 
 void IniStore::BeginLoad(const std::string& file) {
@@ -143,22 +149,30 @@ platform::WriteFault IniStore::Write(const std::string& file, std::string_view s
                                      std::optional<std::string_view> value) {
     Change change{std::string(section), key ? std::optional<std::string>(*key) : std::nullopt,
                   value ? std::optional<std::string>(*value) : std::nullopt, std::nullopt};
-    return Record(file, std::move(change), BreaksLines(section, key, value));
+    return Record(
+        file, std::move(change),
+        BreaksLines(section, key, value) ? platform::WriteFault::LineBreak : platform::WriteFault::None);
 }
 
 platform::WriteFault IniStore::RenameSection(const std::string& file, std::string_view section,
                                              std::string_view to) {
     const bool refused =
         BreaksLines(section, std::nullopt, std::nullopt) || BreaksLines(to, std::nullopt, std::nullopt);
-    return Record(file, Change{std::string(section), std::nullopt, std::nullopt, std::string(to)}, refused);
+    Change change{std::string(section), std::nullopt, std::nullopt, std::string(to)};
+    if (refused)
+        return Record(file, std::move(change), platform::WriteFault::LineBreak);
+    const bool taken = Current(file).document.RenameBlocked(section, to);
+    return Record(file, std::move(change),
+                  taken ? platform::WriteFault::NameTaken : platform::WriteFault::None);
 }
 
-platform::WriteFault IniStore::Record(const std::string& file, Change change, bool refused) {
-    if (refused) {
+platform::WriteFault IniStore::Record(const std::string& file, Change change, platform::WriteFault refusal) {
+    if (refusal != platform::WriteFault::None) {
         auto found = m_files.find(file);
-        if (found != m_files.end() && found->second.updates > 0)
-            found->second.refused = true;
-        return platform::WriteFault::LineBreak;
+        if (found != m_files.end() && found->second.updates > 0 &&
+            found->second.refusal != platform::WriteFault::NameTaken)
+            found->second.refusal = refusal;
+        return refusal;
     }
     BeginUpdate(file);
     Entry& entry = m_files[file];
@@ -168,14 +182,14 @@ platform::WriteFault IniStore::Record(const std::string& file, Change change, bo
     return EndUpdate(file);
 }
 
-bool IniStore::Rebase(const std::string& file, Entry& entry) {
+platform::WriteFault IniStore::Rebase(const std::string& file, Entry& entry) {
     std::optional<platform::FileContent> content;
     switch (Look(file, entry, content)) {
         case Found::Current:
             Restamp(entry.stamp, entry.settled, content);
-            return true;
+            return platform::WriteFault::None;
         case Found::Unreadable:
-            return false;
+            return platform::WriteFault::WriteFailed;
         case Found::Missing:
             ForgetFile(entry);
             break;
@@ -185,9 +199,13 @@ bool IniStore::Rebase(const std::string& file, Entry& entry) {
     }
     // Only what this update asked for goes onto the newer file; everything else stays as the file has it.
     entry.dirty = false;
-    for (const Change& change : entry.changes)
+    for (const Change& change : entry.changes) {
+        // Another copy gave a section the name this update renames onto.
+        if (change.renameTo && entry.document.RenameBlocked(change.section, *change.renameTo))
+            return platform::WriteFault::NameTaken;
         entry.dirty = Apply(entry.document, change) || entry.dirty;
-    return true;
+    }
+    return platform::WriteFault::None;
 }
 
 platform::WriteFault IniStore::Commit(const std::string& file, Entry& entry) noexcept {
@@ -224,7 +242,8 @@ platform::WriteFault IniStore::CommitUnderLock(const std::string& file, Entry& e
         fault = platform::ReplaceObstacle(file);
     if (fault != platform::WriteFault::None)
         return fault;
-    return Rebase(file, entry) ? Replace(file, entry) : platform::WriteFault::WriteFailed;
+    const platform::WriteFault rebased = Rebase(file, entry);
+    return rebased == platform::WriteFault::None ? Replace(file, entry) : rebased;
 }
 
 platform::WriteFault IniStore::Replace(const std::string& file, Entry& entry) {

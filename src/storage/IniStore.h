@@ -29,8 +29,9 @@ public:
                                std::optional<std::string_view> key, std::optional<std::string_view> value);
 
     // Gives the first section named `section` the name `to`, its keys and their order kept, as one write:
-    // the file never holds both names or neither. Nothing happens when the section is missing or another
-    // section is named `to`; a name that would break the file's lines is refused as Write refuses it.
+    // the file never holds both names or neither. Nothing happens when the section is missing. When another
+    // section is named `to` (here, or in the file by the time it is written), the whole update it belongs to
+    // is refused with NameTaken; a name that would break the file's lines is refused as Write refuses it.
     platform::WriteFault RenameSection(const std::string& file, std::string_view section,
                                        std::string_view to);
 
@@ -75,7 +76,8 @@ private:
         bool checked = false;         // checked against the file in the current load
         std::vector<Change> changes;  // the writes of the open update
         bool dirty = false;           // the changes make the copy differ from the file
-        bool refused = false;         // the open update had a write refused
+        platform::WriteFault refusal =
+            platform::WriteFault::None;  // why a write of the open update was refused
     };
 
     // What a look at the disk found, compared with a copy.
@@ -86,8 +88,8 @@ private:
                       std::optional<platform::FileContent>& content);
     static void Take(Entry& entry, platform::FileContent content);
     static bool Apply(IniDocument& document, const Change& change);
-    platform::WriteFault Record(const std::string& file, Change change, bool refused);
-    bool Rebase(const std::string& file, Entry& entry);
+    platform::WriteFault Record(const std::string& file, Change change, platform::WriteFault refusal);
+    platform::WriteFault Rebase(const std::string& file, Entry& entry);
     platform::WriteFault Commit(const std::string& file, Entry& entry) noexcept;
     platform::WriteFault CommitUnderLock(const std::string& file, Entry& entry);
     static platform::WriteFault Replace(const std::string& file, Entry& entry);

@@ -75,6 +75,21 @@ TEST_F(ManageProfilesTest, RenameMovesTheSectionInPlaceAndTheRememberedProfileFo
     EXPECT_EQ(ReadIni(), renamed);
 }
 
+// Another copy gave a profile the new name meanwhile: nothing is renamed, in the file or here, and the
+// user is told why.
+TEST_F(ManageProfilesTest, ARenameOntoANameAnotherCopyTookChangesNothing) {
+    Profile& a = *g_cApp->ActiveProfile();
+    const std::string theirs = ReadIni() + "[profile_Race]\r\nREFRESH=9\r\n";
+    WriteIni(theirs);
+    names = {"Race"};
+    EXPECT_FALSE(mManageProfiles::RenameProfile(a));
+    EXPECT_EQ(ReadIni(), theirs);
+    EXPECT_EQ(a.ProfileName(), "profile_A");
+    EXPECT_EQ(a.ProfileDescription(), "Mine");
+    EXPECT_NE(Messages().find(Translator().TranslateEx("ERROR_MESSAGES", "ERR_SaveNameTaken")),
+              std::string::npos);
+}
+
 // The copy proposes the next free number, takes every value, and is a new, active, unsaved profile.
 TEST_F(ManageProfilesTest, DuplicateCopiesEveryValueUnderTheNextFreeName) {
     names = {"A (2)", "A (3)"};
@@ -134,7 +149,7 @@ TEST_F(ManageProfilesTest, AProfileMovedAsTextComesBackEqual) {
     EXPECT_EQ(ProfileSnippet::Format(*pasted), "[profile_B (2)]" + ui.clipboard.substr(11));
     EXPECT_EQ(g_cApp->ActiveProfile(), pasted);
     const std::string file = dir.File("B.ini");
-    ui.saveAnswers = {file, dir.File("missing/B.ini")};
+    ui.saveAnswers = {file, dir.File("missing/B.ini"), g_cApp->IniPath()};
     mManageProfiles::ExportProfile(b, -1);
     EXPECT_EQ(ui.saveRequests.at(0).fileName, "B.ini");
     EXPECT_EQ(dir.Read("B.ini"), ui.clipboard);
@@ -147,6 +162,13 @@ TEST_F(ManageProfilesTest, AProfileMovedAsTextComesBackEqual) {
     EXPECT_EQ(ui.messages.back().prompt,
               Translator().TranslateEx("ERROR_MESSAGES", "ERR_ProfileNotExported", dir.File("missing/B.ini"),
                                        Application::WriteFaultText(platform::WriteFault::NoFolder)));
+    // Not onto the settings file, which holds every profile.
+    const std::string settings = ReadIni();
+    mManageProfiles::ExportProfile(b, -1);
+    EXPECT_EQ(ReadIni(), settings);
+    EXPECT_NE(
+        ui.messages.back().prompt.find(Translator().TranslateEx("ERROR_MESSAGES", "ERR_ExportOntoSettings")),
+        std::string::npos);
 }
 
 struct PasteCase {
