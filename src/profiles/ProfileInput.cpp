@@ -1,8 +1,18 @@
 #include "profiles/ProfileInput.h"
 
+#include "app/UserInterface.h"
 #include "profiles/Profile.h"
 
 namespace ProfileInput {
+
+std::string CaptionKey(int32_t mode) {
+    const bool known = mode >= kNewProfileMode && mode <= kImportProfileMode;
+    return "DIALOG_CAPTION" + std::to_string(known ? mode : kEditProfileMode);
+}
+
+bool NameEditable(int32_t mode) {
+    return mode != kEditProfileMode;
+}
 
 std::optional<Problem> Check(bool nameEditable, const std::string& name, const std::string& description) {
     if (name.empty())

@@ -38,7 +38,7 @@ bool Written(platform::WriteFault fault) {
 }
 
 bool RefusedAsStandard(const Profile& profile) {
-    if (!Profiles::IsStandardProfile(profile.ProfileName()))
+    if (CanRenameOrDelete(profile))
         return false;
     Tell("ERR_StandardProfileFixed");
     return true;
@@ -111,6 +111,10 @@ OpenFileOptions FileOptions(const char* title, int64_t owner) {
 }
 
 }  // namespace
+
+bool CanRenameOrDelete(const Profile& profile) {
+    return !Profiles::IsStandardProfile(profile.ProfileName());
+}
 
 bool RenameProfile(Profile& profile) try {
     if (RefusedAsStandard(profile))

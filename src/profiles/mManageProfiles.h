@@ -14,6 +14,9 @@ namespace mManageProfiles {
 // the standard profile, or a file that could not be changed (each said).
 bool RenameProfile(Profile& profile);
 
+// Whether `profile` may be renamed or deleted: every one but the standard profile.
+bool CanRenameOrDelete(const Profile& profile);
+
 // A new profile with every value of `profile`, under a name the user confirms (proposed: its caption and
 // " (2)"), made active and saved as a new profile is; nullptr when cancelled.
 Profile* DuplicateProfile(const Profile& profile);

@@ -65,20 +65,18 @@ void frmEditProfile::InitDialog(int32_t mode, Profile& profile) try {
     lngEditMode = mode;
     ResetCancel();
     const bool newProfile = mode == kNewProfile;
-    LockNameField(mode == kEditProfileMode);
+    LockNameField(!ProfileInput::NameEditable(mode));
     txtName->setText(newProfile ? QString() : QtText::ToQt(profile.ProfileCaption()));
     txtDescription->setText(newProfile ? QString() : QtText::ToQt(profile.ProfileDescription()));
     TranslateDialog();
-    (mode == kEditProfileMode ? txtDescription : txtName)->setFocus();
+    (ProfileInput::NameEditable(mode) ? txtName : txtDescription)->setFocus();
     txtName->selectAll();
 } catch (...) {
     mError::PassOn("frmEditProfile.InitDialog");
 }
 
 void frmEditProfile::TranslateDialog() try {
-    const bool known = lngEditMode >= kNewProfileMode && lngEditMode <= kImportProfileMode;
-    setWindowTitle(
-        QtText::ToQt(TranslateDialogItem("DIALOG_CAPTION" + std::to_string(known ? lngEditMode : 2))));
+    setWindowTitle(QtText::ToQt(TranslateDialogItem(ProfileInput::CaptionKey(lngEditMode))));
     MnemonicSet keys;
     lblName->setText(keys.Add(ItemText("LBL_NAME")));
     lblDesc->setText(keys.Add(ItemText("LBL_DESCRIPTION")));

@@ -58,7 +58,7 @@ void frmProfiles::ShowProfiles(const Profile* current) {
 
 void frmProfiles::EnableButtons() {
     const Profile* selected = ucProfiles1->SelectedProfile();
-    const bool ownName = selected != nullptr && !Profiles::IsStandardProfile(selected->ProfileName());
+    const bool ownName = selected != nullptr && mManageProfiles::CanRenameOrDelete(*selected);
     cmdRename->setEnabled(ownName);
     cmdDelete->setEnabled(ownName);
     cmdDuplicate->setEnabled(selected != nullptr);

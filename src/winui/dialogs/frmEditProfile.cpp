@@ -19,7 +19,7 @@ void frmEditProfile::InitDialog(int lngEditMode, Profile& oProfile) {
 
 void frmEditProfile::OnShow() {
     const bool newProfile = m_editMode == kNewProfileMode;
-    const bool locked = m_editMode == kEditProfileMode;
+    const bool locked = !ProfileInput::NameEditable(m_editMode);
     SendMessageA(Item(IDC_txtName), EM_SETREADONLY, locked, 0);
     WinText::SetItem(Handle(), IDC_txtName, newProfile ? "" : m_profile->ProfileCaption());
     WinText::SetItem(Handle(), IDC_txtProfileDescription, newProfile ? "" : m_profile->ProfileDescription());
@@ -28,8 +28,7 @@ void frmEditProfile::OnShow() {
 }
 
 void frmEditProfile::TranslateDialog() try {
-    const bool known = m_editMode >= kNewProfileMode && m_editMode <= kImportProfileMode;
-    WinText::Set(Handle(), TranslateDialogItem("DIALOG_CAPTION" + std::to_string(known ? m_editMode : 2)));
+    WinText::Set(Handle(), TranslateDialogItem(ProfileInput::CaptionKey(m_editMode)));
     Mnemonics keys = WinText::KeySet();
     WinText::SetItem(Handle(), IDC_lblName, keys.Add(TranslateDialogItem("LBL_NAME")));
     WinText::SetItem(Handle(), IDC_lblDesc, keys.Add(TranslateDialogItem("LBL_DESCRIPTION")));
@@ -41,7 +40,7 @@ void frmEditProfile::TranslateDialog() try {
 
 bool frmEditProfile::CheckInput() try {
     const auto problem =
-        ProfileInput::Check(m_editMode != kEditProfileMode, WinText::Item(Handle(), IDC_txtName),
+        ProfileInput::Check(ProfileInput::NameEditable(m_editMode), WinText::Item(Handle(), IDC_txtName),
                             WinText::Item(Handle(), IDC_txtProfileDescription));
     if (!problem)
         return true;
