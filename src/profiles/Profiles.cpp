@@ -169,8 +169,13 @@ platform::WriteFault Profiles::Delete(Profile& profile) try {
         mError::RaiseRuntimeError(mError::kInvalidProcedureCall);
     iniFile::Update save = m_settings.BeginSave();
     profile.DeleteData();
+    // The remembered profile becomes the one that stays active: the standard profile in place of a deleted
+    // active one, else the active one.
+    const Profile* active = App().ActiveProfile();
     if (mString::EqualsNoCase(m_settings.Read_ActiveProfileName(), profile.ProfileName()))
-        m_settings.Write_ActiveProfileName(kStandardProfileName);
+        m_settings.Write_ActiveProfileName(active == nullptr || active == &profile
+                                               ? std::string(kStandardProfileName)
+                                               : active->ProfileName());
     const platform::WriteFault fault = save.Commit();
     if (fault != platform::WriteFault::None)
         return fault;

@@ -42,8 +42,9 @@ public:
     // nothing.
     platform::WriteFault Rename(Profile& profile, const std::string& name);
 
-    // Removes `profile` with its section of the settings file, in one write; a remembered or active profile
-    // that was it becomes the standard profile (made when there is none). When the write does not happen,
+    // Removes `profile` with its section of the settings file, in one write. An active profile that was it
+    // becomes the standard profile (made when there is none); the remembered one becomes the profile that
+    // stays active. When the write does not happen,
     // says why and changes nothing. Never the standard profile (failure 5).
     platform::WriteFault Delete(Profile& profile);
 
