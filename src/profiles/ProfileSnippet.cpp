@@ -83,9 +83,10 @@ Parsed Parse(std::string_view bytes) {
     if (sections.size() == 1 && IsText(text)) {
         parsed.section = sections.front();
         for (const std::string& key : parsed.document.KeyNames(parsed.section)) {
+            const auto named = [&key](const std::string& other) { return mString::EqualsNoCase(other, key); };
             if (IsSettingKey(key))
                 ++ours;
-            else
+            else if (std::none_of(parsed.unknownKeys.begin(), parsed.unknownKeys.end(), named))
                 parsed.unknownKeys.push_back(key);
         }
     }
