@@ -12,6 +12,12 @@
 
 namespace frmMainRules {
 
+// The tabs' captions in tab order, and the menu bar's titles, whose letters the pages leave to the menus:
+// keys of the main window's section.
+inline constexpr const char* kTabKeys[] = {"TAB_GAMESETTINGS", "TAB_SCENARIO", "TAB_DISPLAY", "TAB_REFRESH",
+                                           "TAB_EXTRA"};
+inline constexpr const char* kMenuKeys[] = {"MNU_FILE", "MNU_PROFILES", "MNU_EDIT", "MNU_EXTRA", "MNU_HELP"};
+
 // The smallest user-defined resolution the game accepts.
 inline constexpr int16_t kMinimumWidth = 640;
 inline constexpr int16_t kMinimumHeight = 400;

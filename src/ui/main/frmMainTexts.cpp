@@ -40,13 +40,11 @@ void frmMain::TranslateDialog() try {
 
 // The pages share the keys of the whole window: every label and button gets its own letter.
 void frmMain::TranslatePages() {
-    static constexpr const char* kTabs[kTabCount] = {"TAB_GAMESETTINGS", "TAB_SCENARIO", "TAB_DISPLAY",
-                                                     "TAB_REFRESH", "TAB_EXTRA"};
     for (int i = 0; i < kTabCount; ++i)
-        ucTab1[i]->SetCaption(MainText(kTabs[i]));
+        ucTab1[i]->SetCaption(MainText(frmMainRules::kTabKeys[i]));
     // The menu bar's letters are taken first, so that no caption of a page competes with a menu.
     MnemonicSet keys;
-    for (const char* menu : {"MNU_FILE", "MNU_PROFILES", "MNU_EDIT", "MNU_EXTRA", "MNU_HELP"})
+    for (const char* menu : frmMainRules::kMenuKeys)
         keys.Add(MainText(menu));
     cmdStart->setText(keys.Add(MainText("BTN_START_TARVOLIN")));
     for (int i = 1; i <= kTabCount; ++i)

@@ -223,12 +223,10 @@ void frmMain::TranslateDialog() try {
 // The pages share the keys of the whole window: every label and button gets its own letter, and the menu
 // bar's letters are taken first, so that no caption of a page competes with a menu.
 void frmMain::TranslatePages() {
-    static constexpr const char* kTabs[kTabCount] = {"TAB_GAMESETTINGS", "TAB_SCENARIO", "TAB_DISPLAY",
-                                                     "TAB_REFRESH", "TAB_EXTRA"};
     for (int i = 0; i < kTabCount; ++i)
-        WinText::SetItem(Handle(), IDC_ucTab1_0 + i, MainPage::Text(kTabs[i]));
+        WinText::SetItem(Handle(), IDC_ucTab1_0 + i, MainPage::Text(frmMainRules::kTabKeys[i]));
     Mnemonics keys = WinText::KeySet();
-    for (const char* menu : {"MNU_FILE", "MNU_PROFILES", "MNU_EDIT", "MNU_EXTRA", "MNU_HELP"})
+    for (const char* menu : frmMainRules::kMenuKeys)
         keys.Add(MainPage::Text(menu));
     WinText::SetItem(Handle(), IDC_cmdStart, keys.Add(MainPage::Text("BTN_START_TARVOLIN")));
     for (int i = 1; i <= kTabCount; ++i)
