@@ -138,7 +138,11 @@ std::string Profiles::FreeCaption(const std::string& caption) const {
     for (int number = 2;; ++number) {
         const std::string suffix = " (" + std::to_string(number) + ")";
         const std::size_t room = mIni::kReadBufferSize - 1 - std::string_view(Profile::kNamePrefix).size();
-        std::string candidate = mString::TrimRight(caption.substr(0, room - suffix.size())) + suffix;
+        // A shortened caption ends before a whole character, never inside one.
+        std::size_t cut = std::min(caption.size(), room - suffix.size());
+        while (cut > 0 && cut < caption.size() && (static_cast<unsigned char>(caption[cut]) & 0xC0) == 0x80)
+            --cut;
+        std::string candidate = mString::TrimRight(caption.substr(0, cut)) + suffix;
         if (!IsNameTaken(Profile::kNamePrefix + candidate))
             return candidate;
     }

@@ -103,6 +103,8 @@ TEST_F(ManageProfilesTest, DuplicateCopiesEveryValueUnderTheNextFreeName) {
     EXPECT_EQ(g_cApp->ActiveProfile(), second);
     EXPECT_EQ(ReadIni(), kIni);
     EXPECT_EQ(All().FreeCaption(std::string(246, 'x')), std::string(242, 'x') + " (2)");
+    // Shortened before a whole character: "ö" is two bytes, and the room ends between them.
+    EXPECT_EQ(All().FreeCaption(std::string(241, 'x') + "öö"), std::string(241, 'x') + " (2)");
 }
 
 // Only after Yes, and never the standard profile; the file loses exactly that section, and the remembered
