@@ -15,6 +15,9 @@ void Replace(std::string& text, std::string_view find, std::string_view replacem
 
 }  // namespace
 
+cTranslate::Batch::Batch()
+    : m_chosen(App().GetLanguageFile(App().Options().Language())), m_english(App().GetLanguageFile("EN")) {}
+
 std::string cTranslate::Lookup(const std::string& section, const std::string& key) {
     const Application& app = App();
     std::string text = mIni::ReadFromIni(app.GetLanguageFile(app.Options().Language()), section, key, "");

@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "storage/iniFile.h"
+
 class cTranslate {
 public:
     // The marker shown for a text that neither the chosen language nor English has.
@@ -17,6 +19,17 @@ public:
 
     // The "yes" or "no" text of the chosen language (TranslateEx reports any failure).
     std::string TranslateBool_YesNo(bool value) const;
+
+    // Makes the texts looked up while it lives come from one look at each language file (the chosen one
+    // and English): a window that sets all its captions at once checks its files once, not per caption.
+    class Batch {
+    public:
+        Batch();
+
+    private:
+        iniFile::Load m_chosen;
+        iniFile::Load m_english;
+    };
 
 private:
     static std::string Lookup(const std::string& section, const std::string& key);

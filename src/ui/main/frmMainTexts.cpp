@@ -29,6 +29,7 @@ QString MainText(const char* key) {
 }  // namespace
 
 void frmMain::TranslateDialog() try {
+    const cTranslate::Batch texts;
     TranslatePages();
     TranslateMenus();
     UpdateVersionLabels();

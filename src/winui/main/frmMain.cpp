@@ -211,6 +211,7 @@ void frmMain::ShowCommandLine() {
 }
 
 void frmMain::TranslateDialog() try {
+    const cTranslate::Batch texts;
     TranslatePages();
     TranslateMenus();
     UpdateVersionLabels();
