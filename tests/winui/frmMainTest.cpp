@@ -160,3 +160,32 @@ TEST_F(frmMainTest, ClosingAsksWhetherToSaveAndTheNextStartLaunchesWhatWasSaved)
 }
 
 }  // namespace
+
+namespace {
+
+// The keys of the window as its message loop hands them to the dialog manager.
+void PressKey(HWND window, WPARAM key, bool shift = false) {
+    BYTE keys[256] = {};
+    keys[VK_SHIFT] = shift ? 0x80 : 0;
+    SetKeyboardState(keys);
+    MSG message{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
+    IsDialogMessageA(window, &message);
+    keys[VK_SHIFT] = 0;
+    SetKeyboardState(keys);
+}
+
+// Tab walks the game page's controls in their order, each label's field right after it, on to the start
+// row and back round to the tabs; Shift+Tab walks back.
+TEST_F(frmMainTest, TabWalksThePageAndTheStartRowInOrder) {
+    SetFocus(Control(IDC_txtTarvolinPath));
+    const int order[] = {IDC_cmdSelectTarvoPath, IDC_ckLogMessages, IDC_ckFreeplay, IDC_cmdLogfile2,
+                         IDC_txtCommandLine,     IDC_cmdStart,      IDC_ucTab1_0};
+    for (int id : order) {
+        PressKey(main->Handle(), VK_TAB);
+        EXPECT_EQ(GetFocus(), Control(id)) << id;
+    }
+    PressKey(main->Handle(), VK_TAB, true);
+    EXPECT_EQ(GetFocus(), Control(IDC_cmdStart));
+}
+
+}  // namespace
