@@ -78,6 +78,7 @@ TEST_F(frmMainTest, AWidthThatIsNoNumberOrTooBigEndsTheSaveWithAReport) {
          {std::tuple{"", "20006", "frmMain.RefreshProfileData\r\nfrmMain.CheckData"},
           std::tuple{"40000", "Err.-Number: 6 ", "frmMain.SaveData\r\nfrmMain.RefreshProfileData"}}) {
         reports.clear();
+        Click(IDC_ucTab1_0 + 2);
         SetText(IDC_txtRes_Width, width);
         Choose(IDM_mnuFile_Save);
         ASSERT_EQ(reports.size(), 1u) << width;
@@ -92,6 +93,7 @@ TEST_F(frmMainTest, ProfilesSwitchKeepingTheirEditsAndANewOneComesThroughItsDial
     Click(IDC_ckFreeplay);
     Choose(IDM_mnuProfile_List_0 + 1);
     EXPECT_EQ(Active().ProfileName(), "profile_B");
+    Click(IDC_ucTab1_0 + 3);
     EXPECT_EQ(ListBox_GetCurSel(Control(IDC_lstRefresh)), 2);
     Choose(IDM_mnuProfile_List_0);
     EXPECT_EQ(Button_GetCheck(Control(IDC_ckFreeplay)), BST_CHECKED);

@@ -97,11 +97,15 @@ void DisplayPage::lstResolution_Click() {
     const bool shown = mError::AsEntryPoint("frmMain.lstResolution_Click", [this] {
         if (!m_loading)
             ChooseMode(0);
-        if (const auto preview = frmMainRules::PreviewFor(ListBox_GetCurSel(Item(IDC_lstResolution)) + 1))
-            m_preview->SetResolution(preview->width, preview->height, preview->fillArea);
+        ShowPreview();
     });
     if (shown)
         Changed("frmMain.lstResolution_Click");
+}
+
+void DisplayPage::ShowPreview() {
+    if (const auto preview = frmMainRules::PreviewFor(ListBox_GetCurSel(Item(IDC_lstResolution)) + 1))
+        m_preview->SetResolution(preview->width, preview->height, preview->fillArea);
 }
 
 void DisplayPage::OnCommand(int id, int code) {

@@ -27,6 +27,8 @@ public:
     void CorrectInput();
     // The list's choice: the standard mode (unless the page is being loaded) and its preview.
     void lstResolution_Click();
+    // The preview of the list's choice, the mode as it is.
+    void ShowPreview();
 
 protected:
     void OnInit() override;

@@ -21,8 +21,10 @@ public:
 
     MainPage(int layout, ValueChanged changed, ButtonPressed pressed);
 
-    // Makes the page inside the window `parent`.
+    // Makes the page inside the window `parent`; until then it shows nothing and hands back nothing, and
+    // Retranslate only takes its captions' letters.
     void Create(HWND parent);
+    bool Made() const { return Handle() != nullptr; }
 
     // A page without profile values shows and hands back nothing.
     virtual void ShowValues(const MainWindowValues& values);

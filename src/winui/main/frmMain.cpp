@@ -54,18 +54,13 @@ void frmMain::Create() {
     Dialog::Create(IDD_frmMain, nullptr);
 }
 
-// The pages are made inside the window, right after the tabs in the tab order and above the tab area, which
-// is drawn beneath them.
+// The first page is made with the window; the others when they are first shown.
 void frmMain::OnInit() {
     HICON icon = LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_PAVONEL));
     SendMessageA(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
     SendMessageA(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
-    HWND after = Item(IDC_ucTab1_0 + kTabCount - 1);
-    for (int i = 1; i <= kTabCount; ++i) {
-        picPage[i]->Create(Handle());
-        SetWindowPos(picPage[i]->Handle(), after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-        after = picPage[i]->Handle();
-    }
+    picPage[1]->Create(Handle());
+    PlaceInTabOrder(*picPage[1]);
     // The layout is the room inside the window; the menu bar takes its height from there unless the
     // window grows by it.
     RECT before{};
@@ -110,7 +105,34 @@ void frmMain::ucTab1_Click(int index) try {
     mError::ShowError("frmMain.ucTab1_Click");
 }
 
+// A page stands right after the tabs in the tab order (only the shown one is reached) and above the tab
+// area, which is drawn beneath it.
+void frmMain::PlaceInTabOrder(MainPage& page) {
+    SetWindowPos(page.Handle(), Item(IDC_ucTab1_0 + kTabCount - 1), 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+// Making a window's controls is most of its start under Wine, and the pages behind the first are made only
+// when they are first shown. Until then the values shown on them are kept; made, a page shows them, takes
+// its captions (its letters were kept for it) and fills what it lists.
+void frmMain::MakePage(int page) {
+    if (picPage[page]->Made())
+        return;
+    const MainWindowValues values = Values();
+    picPage[page]->Create(Handle());
+    PlaceInTabOrder(*picPage[page]);
+    TranslatePages();
+    picPage[page]->ShowValues(values);
+    if (picPage[page] == m_scenario.get()) {
+        m_scenario->FillDatenPakList(values.tarvolinPath);
+        m_scenario->FillScenarioFilesList(values.tarvolinPath);
+    } else if (picPage[page] == m_display.get()) {
+        m_display->ShowPreview();
+    }
+}
+
 void frmMain::ActivatePage(int page) try {
+    MakePage(page);
     const RECT area = PlaceOf(Item(IDC_Shape1));
     const HWND focus = GetFocus();
     for (int i = 1; i <= kTabCount; ++i) {
@@ -150,9 +172,11 @@ bool frmMain::TranslateKeys(const MSG& message) {
 }
 
 MainWindowValues frmMain::Values() const {
-    MainWindowValues values;
-    for (int i = 1; i <= kTabCount; ++i)
-        picPage[i]->HandBack(values);
+    MainWindowValues values = m_shown;
+    for (int i = 1; i <= kTabCount; ++i) {
+        if (picPage[i]->Made())
+            picPage[i]->HandBack(values);
+    }
     return values;
 }
 
@@ -160,13 +184,21 @@ bool frmMain::LoadData(Profile& profile) try {
     App().SetActiveProfile(&profile);
     frmMainCommands::AskForMissingGame(profile);
     const MainWindowValues values = frmMainRules::ValuesOf(profile);
-    for (int i = 1; i <= kTabCount; ++i)
-        picPage[i]->ShowValues(values);
-    m_scenario->FillDatenPakList(values.tarvolinPath);
-    m_scenario->FillScenarioFilesList(values.tarvolinPath);
+    m_shown = values;
+    for (int i = 1; i <= kTabCount; ++i) {
+        if (picPage[i]->Made())
+            picPage[i]->ShowValues(values);
+    }
+    if (m_scenario->Made()) {
+        m_scenario->FillDatenPakList(values.tarvolinPath);
+        m_scenario->FillScenarioFilesList(values.tarvolinPath);
+    }
     FillProfileList();
     // The preview shows the loaded choice, and the standard mode is chosen with it, as it always was.
-    m_display->lstResolution_Click();
+    if (m_display->Made())
+        m_display->lstResolution_Click();
+    else
+        m_shown.standardResolution = true;
     UpdateVersionLabels();
     ShowCommandLine();
     return true;
@@ -175,7 +207,9 @@ bool frmMain::LoadData(Profile& profile) try {
 }
 
 void frmMain::RefreshProfileData() try {
-    m_display->CorrectInput();
+    // A page not made yet shows what was loaded, which needs no correction.
+    if (m_display->Made())
+        m_display->CorrectInput();
     frmMainCommands::WriteBack(Values(), *App().ActiveProfile());
 } catch (...) {
     mError::PassOn("frmMain.RefreshProfileData");

@@ -68,6 +68,8 @@ protected:
 private:
     // Building and binding (frmMain.cpp).
     void PlaceTabs();
+    void PlaceInTabOrder(MainPage& page);
+    void MakePage(int page);
     void ActivatePage(int page);
     MainWindowValues Values() const;
     void TellCorrection(const char* key, HWND focus);
@@ -106,6 +108,7 @@ private:
     std::unique_ptr<ExtraPage> m_extra;
     std::array<MainPage*, kTabCount + 1> picPage{};  // pages 1 to 5; index 0 unused
     int m_activeTab = 0;
+    MainWindowValues m_shown;  // the values last shown, which pages not made yet keep
 
     HMENU mnuFile_Profiles = nullptr;
     HMENU mnuOptions_Lang = nullptr;
