@@ -1,6 +1,23 @@
 #include "winui/Dialog.h"
 
+#include <utility>
+
 #include "error/mError.h"
+
+HWND FindControl(HWND root, int id) {
+    std::pair<int, HWND> search{id, nullptr};
+    EnumChildWindows(
+        root,
+        [](HWND child, LPARAM data) -> BOOL {
+            auto* found = reinterpret_cast<std::pair<int, HWND>*>(data);
+            if (GetDlgCtrlID(child) != found->first)
+                return TRUE;
+            found->second = child;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.second;
+}
 
 Dialog::~Dialog() {
     if (m_window != nullptr && IsWindow(m_window)) {

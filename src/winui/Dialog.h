@@ -8,6 +8,9 @@
 #include <optional>
 #include <string>
 
+// The control `id` anywhere inside `root`, its pages included; nullptr when there is none.
+HWND FindControl(HWND root, int id);
+
 class Dialog {
 public:
     Dialog(const Dialog&) = delete;
@@ -34,8 +37,6 @@ protected:
     virtual void OnCommand(int id, int code) = 0;
     // Any other message; a value is the dialog procedure's answer, nothing leaves it to Windows.
     virtual std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
-
-    const char* Name() const { return m_name; }
 
 private:
     const char* m_name;

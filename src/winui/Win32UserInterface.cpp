@@ -65,12 +65,8 @@ std::string Win32UserInterface::GetClipboardText() {
     std::string text;
     if (!OpenClipboard(Owner()))
         return text;
-    if (HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
-        if (const auto* chars = static_cast<const wchar_t*>(GlobalLock(data))) {
-            text = WinText::Narrow(std::wstring(chars, wcsnlen(chars, GlobalSize(data) / sizeof(wchar_t))));
-            GlobalUnlock(data);
-        }
-    }
+    if (HANDLE data = GetClipboardData(CF_UNICODETEXT))
+        text = WinText::FromGlobal(data);
     CloseClipboard();
     return text;
 }

@@ -45,6 +45,15 @@ std::string Narrow(const std::wstring& text) {
     return narrow;
 }
 
+std::string FromGlobal(HGLOBAL memory) {
+    const auto* chars = static_cast<const wchar_t*>(GlobalLock(memory));
+    if (chars == nullptr)
+        return {};
+    std::string text = Narrow(std::wstring(chars, wcsnlen(chars, GlobalSize(memory) / sizeof(wchar_t))));
+    GlobalUnlock(memory);
+    return text;
+}
+
 namespace {
 
 // Characters beyond the basic plane count as no letter: Windows' tests take one UTF-16 unit.

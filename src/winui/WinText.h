@@ -18,6 +18,8 @@ void SetItem(HWND dialog, int id, const std::string& text);
 
 std::wstring Wide(const std::string& text);
 std::string Narrow(const std::wstring& text);
+// The UTF-16 text in global memory (the clipboard's, a drag's) up to its NUL or its end, as UTF-8.
+std::string FromGlobal(HGLOBAL memory);
 
 // Alt+letters for one window's captions, with Windows telling what is a letter and what its lower case is.
 Mnemonics KeySet();

@@ -56,24 +56,7 @@ protected:
     }
 
     // The control `id` of the main window or of one of its pages.
-    HWND Control(int id) const {
-        HWND found = nullptr;
-        struct Search {
-            int id;
-            HWND* found;
-        } search{id, &found};
-        EnumChildWindows(
-            main->Handle(),
-            [](HWND child, LPARAM data) -> BOOL {
-                auto* s = reinterpret_cast<Search*>(data);
-                if (GetDlgCtrlID(child) != s->id)
-                    return TRUE;
-                *s->found = child;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&search));
-        return found;
-    }
+    HWND Control(int id) const { return FindControl(main->Handle(), id); }
     // Runs what was posted to the windows, as their message loop would.
     static void Pump() {
         MSG message;

@@ -19,7 +19,6 @@ using std::min;
 #include <fstream>
 #include <functional>
 #include <string>
-#include <utility>
 
 #include "app/Application.h"
 #include "app/PublicObjects.h"
@@ -102,22 +101,6 @@ void WriteSettings(const std::string& folder, const std::string& language) {
         << "[OPTIONS]\r\nLANGUAGE=" << language << "\r\n";
 }
 
-// The control `id` anywhere inside `root`.
-HWND Find(HWND root, int id) {
-    std::pair<int, HWND> search{id, nullptr};
-    EnumChildWindows(
-        root,
-        [](HWND child, LPARAM data) -> BOOL {
-            auto* found = reinterpret_cast<std::pair<int, HWND>*>(data);
-            if (GetDlgCtrlID(child) != found->first)
-                return TRUE;
-            found->second = child;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.second;
-}
-
 // Every modal window a scene opens is grabbed and closed, unconfirmed.
 void GrabModal(ModalDialog& dialog, const char* name) {
     Grab(dialog.Handle(), name);
@@ -159,7 +142,7 @@ void RenderLanguage(const std::string& folder, const std::string& language) {
     active.SetFreeplay(!active.Freeplay());
     Ui().ShowSaveDialog();
     // A width that is no number: the report of the failed save.
-    WinText::Set(Find(main->Handle(), IDC_txtRes_Width), "");
+    WinText::Set(FindControl(main->Handle(), IDC_txtRes_Width), "");
     SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuFile_Save, 0);
     InstallModalRunners({});
     delete main;

@@ -19,12 +19,7 @@ std::optional<std::string> TextOf(IDataObject& data) {
     STGMEDIUM medium{};
     if (FAILED(data.GetData(&format, &medium)))
         return std::nullopt;
-    std::optional<std::string> text;
-    if (const auto* chars = static_cast<const wchar_t*>(GlobalLock(medium.hGlobal))) {
-        text = WinText::Narrow(
-            std::wstring(chars, wcsnlen(chars, GlobalSize(medium.hGlobal) / sizeof(wchar_t))));
-        GlobalUnlock(medium.hGlobal);
-    }
+    std::optional<std::string> text = WinText::FromGlobal(medium.hGlobal);
     ReleaseStgMedium(&medium);
     return text;
 }

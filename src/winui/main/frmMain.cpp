@@ -38,7 +38,7 @@ RECT PlaceOf(HWND control) {
 
 frmMain::frmMain() : Dialog("frmMain") {
     auto changed = [this](const char* trail) { ControlChanged(trail); };
-    auto pressed = [this](int id) { PageButton(id); };
+    auto pressed = [this](int id) { RunCommand(id); };
     m_game = std::make_unique<GamePage>(changed, pressed);
     m_scenario = std::make_unique<ScenarioPage>(changed, pressed);
     m_display = std::make_unique<DisplayPage>(

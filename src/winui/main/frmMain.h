@@ -76,7 +76,6 @@ private:
     void ControlChanged(const char* trail);
     void ShowCommandLine();
     void TranslatePages();
-    void PageButton(int id);
 
     // Commands (frmMainCommands.cpp).
     void RunCommand(int id);

@@ -45,10 +45,6 @@ void frmMain::OnCommand(int id, int code) {
     }
 }
 
-void frmMain::PageButton(int id) {
-    RunCommand(id);
-}
-
 // Every command with the name its reports carry.
 void frmMain::RunCommand(int id) {
     static const Command kCommands[] = {
