@@ -49,3 +49,37 @@ PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format desktop-file-utils lib
 # The Windows build: the compiler, GoogleTest's sources to build for Windows, Wine to run the tests, and
 # icotool, which packs the program's icon (drawn from the Linux icon by rsvg-convert) for Windows.
 PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64 icoutils)
+
+# The settings file of the demo: its standard profile plays the game at $2 with the graphic pak pak128.pak.
+pavonel_demo_settings() {
+    printf '[PROFILES]\r\nLASTACTIVEPROFILE=PROFILE_DEFAULT\r\n[PROFILE_DEFAULT]\r\nTARVOPATH=%s\r\nGRAPICPAK=pak128.pak\r\nDESCRIPTION=Demo: a stand-in game\r\n' \
+        "$2" >"$1"
+}
+
+# Starts a virtual X display (Xvfb) of size $1 (WIDTHxHEIGHT) on the first number no X server holds, and
+# exports DISPLAY; PAVONEL_XVFB is its process.
+PAVONEL_XVFB=""
+pavonel_virtual_display() {
+    local number=99
+    while [ -e "/tmp/.X11-unix/X$number" ] || [ -e "/tmp/.X$number-lock" ]; do number=$((number + 1)); done
+    Xvfb ":$number" -screen 0 "$1x24" -br -nolisten tcp >/dev/null 2>&1 &
+    PAVONEL_XVFB=$!
+    for _ in $(seq 50); do
+        [ -e "/tmp/.X11-unix/X$number" ] && break
+        sleep 0.1
+    done
+    export DISPLAY=":$number"
+}
+
+# Serves the virtual display over VNC on 127.0.0.1 only (the next free port after 5900), its log and port
+# in folder $1, and says how to connect; $2 says how the program ends.
+pavonel_serve_vnc() {
+    local port
+    x11vnc -display "$DISPLAY" -localhost -rfbport 5900 -autoport 5900 -forever -shared -nopw -quiet \
+        -bg -o "$1/x11vnc.log" >"$1/x11vnc.port" 2>/dev/null || true
+    port=$(sed -n 's/^PORT=//p' "$1/x11vnc.port" 2>/dev/null)
+    if [ -n "$port" ]; then
+        echo "To use the window live, connect a VNC viewer to 127.0.0.1:$port (from another machine:"
+        echo "ssh -L $port:127.0.0.1:$port to this one first). $2"
+    fi
+}

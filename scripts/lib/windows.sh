@@ -1,6 +1,6 @@
 # Shared by scripts/run and scripts/screenshots for the Windows program: a program folder as a Windows
-# player has it (the language and FAQ files beside the program, a demo game), a Wine prefix that shows
-# windows on the X display with Wine's own window frames, and a virtual display when there is none.
+# player has it (the language and FAQ files beside the program, a demo game) and a Wine prefix that shows
+# windows on the X display with Wine's own window frames.
 # Sourced after common.sh, not run.
 
 PAVONEL_WINE64=/usr/lib/wine/wine64
@@ -36,19 +36,4 @@ pavonel_wine_prefix() {
     fi
     "$PAVONEL_WINE64" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null 2>&1
     "$PAVONEL_WINESERVER" --wait
-}
-
-# Starts a virtual display (Xvfb) when there is none and exports DISPLAY; PAVONEL_XVFB is its process.
-PAVONEL_XVFB=""
-pavonel_virtual_display() {
-    [ -n "${DISPLAY:-}" ] && return 0
-    local number=99
-    while [ -e "/tmp/.X11-unix/X$number" ] || [ -e "/tmp/.X$number-lock" ]; do number=$((number + 1)); done
-    Xvfb ":$number" -screen 0 2560x1600x24 -br -nolisten tcp >/dev/null 2>&1 &
-    PAVONEL_XVFB=$!
-    for _ in $(seq 50); do
-        [ -e "/tmp/.X11-unix/X$number" ] && break
-        sleep 0.1
-    done
-    export DISPLAY=":$number"
 }
