@@ -63,7 +63,6 @@ void frmMain::TranslateMenus() {
     AppendMenuA(file, MF_SEPARATOR, 0, nullptr);
     Add(file, IDM_mnuFile_Quit, "MNU_FILE_QUIT");
     mnuFile_Profiles = AddPopup(bar, "MNU_PROFILES");
-    m_profileListShown = false;
     HMENU edit = AddPopup(bar, "MNU_EDIT");
     Add(edit, IDM_mnuEditCopy_CmdLine, "MNU_EDIT_COPYCMDLINE");
     mnuExtra = AddPopup(bar, "MNU_EXTRA");
