@@ -57,6 +57,16 @@ fs::path Folder(const std::string& name, const std::string& program, int profile
     return folder;
 }
 
+// Removes a benchmark folder. A game started from it may still be closing, so this tries for a while.
+void Remove(const fs::path& folder) {
+    std::error_code error;
+    for (int attempt = 0; attempt < 50 && fs::remove_all(folder, error) == static_cast<std::uintmax_t>(-1);
+         ++attempt)
+        Sleep(100);
+    if (error)
+        std::fprintf(stderr, "could not remove %s: %s\n", folder.string().c_str(), error.message().c_str());
+}
+
 struct Started {
     PROCESS_INFORMATION process{};
     double milliseconds = 0;
@@ -115,14 +125,14 @@ double StartButtonToGame(int rounds) {
         Sleep(200);
     }
     End(program);
-    fs::remove_all(folder);
+    Remove(folder);
     return Median(times);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 15;
+    const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 31;
     struct Row {
         const char* label;
         std::string program;
@@ -147,7 +157,7 @@ int main(int argc, char** argv) {
     const double bare = Median(rows[0].times);
     for (Row& row : rows) {
         std::printf("%-16s %8.1f ms  %5.2fx\n", row.label, Median(row.times), Median(row.times) / bare);
-        fs::remove_all(row.folder);
+        Remove(row.folder);
     }
     std::printf("%-16s %8.1f ms\n", "start to game", StartButtonToGame(rounds));
     std::printf("%-16s %8ju bytes\n", "pavonel.exe",
