@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include <oleacc.h>
 #include <windowsx.h>
 
 #include <tuple>
@@ -44,6 +45,37 @@ TEST_F(frmMainTest, StartsWithTheRememberedProfileAndSwitchesPages) {
     keys[VK_CONTROL] = 0;
     SetKeyboardState(keys);
     EXPECT_FALSE(main->TranslateKeys(key));
+}
+
+// A screen reader hears each drawn tab as a page tab named by its caption, the shown page's selected, and
+// its action turns to that page.
+// (The accessibility library is loaded as a screen reader loads it: its import library and the uuid
+// library both define the interface's id.)
+TEST_F(frmMainTest, TheDrawnTabsAnnounceThemselvesAsPageTabs) {
+    using ObjectFromWindow = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
+    const auto objectFromWindow = reinterpret_cast<ObjectFromWindow>(
+        reinterpret_cast<void*>(GetProcAddress(LoadLibraryA("oleacc.dll"), "AccessibleObjectFromWindow")));
+    ASSERT_NE(objectFromWindow, nullptr);
+    IAccessible* tab = nullptr;
+    ASSERT_EQ(objectFromWindow(Control(IDC_ucTab1_0 + 2), static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                               reinterpret_cast<void**>(&tab)),
+              S_OK);
+    VARIANT self{};
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    VARIANT value{};
+    ASSERT_EQ(tab->get_accRole(self, &value), S_OK);
+    EXPECT_EQ(value.lVal, ROLE_SYSTEM_PAGETAB);
+    BSTR name = nullptr;
+    ASSERT_EQ(tab->get_accName(self, &name), S_OK);
+    EXPECT_EQ(WinText::Narrow(name), Translator().TranslateEx("MAIN_DIALOG", "TAB_DISPLAY"));
+    SysFreeString(name);
+    ASSERT_EQ(tab->get_accState(self, &value), S_OK);
+    EXPECT_EQ(value.lVal & STATE_SYSTEM_SELECTED, 0);
+    Click(IDC_ucTab1_0 + 2);
+    ASSERT_EQ(tab->get_accState(self, &value), S_OK);
+    EXPECT_NE(value.lVal & STATE_SYSTEM_SELECTED, 0);
+    tab->Release();
 }
 
 // A letter types nothing but still chooses the user's own size; a width below the minimum is raised on

@@ -11,6 +11,7 @@
 #include "resource.h"
 #include "translate/cTranslate.h"
 #include "winui/WinText.h"
+#include "winui/controls/PageTabAccessible.h"
 #include "winui/controls/ucTab.h"
 #include "winui/main/DisplayPage.h"
 #include "winui/main/Pages.h"
@@ -59,6 +60,8 @@ void frmMain::OnInit() {
     HICON icon = LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_PAVONEL));
     SendMessageA(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
     SendMessageA(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+    for (int i = 0; i < kTabCount; ++i)
+        PageTabAccessible::Announce(Item(IDC_ucTab1_0 + i), [this, i] { return m_activeTab == i; });
     picPage[1]->Create(Handle());
     PlaceInTabOrder(*picPage[1]);
     // The layout is the room inside the window; the menu bar takes its height from there unless the
@@ -99,6 +102,7 @@ void frmMain::ucTab1_Click(int index) try {
     m_activeTab = index;
     for (int i = 0; i < kTabCount; ++i)
         InvalidateRect(Item(IDC_ucTab1_0 + i), nullptr, TRUE);
+    NotifyWinEvent(EVENT_OBJECT_SELECTION, Item(IDC_ucTab1_0 + index), OBJID_CLIENT, CHILDID_SELF);
     InvalidateRect(Item(IDC_Shape1), nullptr, TRUE);
     ActivatePage(index + 1);
 } catch (...) {
