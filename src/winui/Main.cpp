@@ -55,11 +55,15 @@ int RunMessageLoop(frmMain* window) {
     return static_cast<int>(message.wParam);
 }
 
-int RunProgram(int, char**) {
-    INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX), ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
+void InitWindowThread() {
+    INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX),
+                                  ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_LINK_CLASS};
     InitCommonControlsEx(&controls);
-    // The shell's choosers and drag and drop need the apartment of a window's thread.
     OleInitialize(nullptr);
+}
+
+int RunProgram(int, char**) {
+    InitWindowThread();
     Win32UserInterface ui;
     InstallUserInterface(&ui);
     frmMain* window = Main();

@@ -13,6 +13,10 @@ frmMain* Main();
 // (Tab, the arrows, Alt+letters, Enter, Escape) work in every window of the program.
 int RunMessageLoop(frmMain* window);
 
+// Registers the common controls the windows use (list views, links) and joins OLE's apartment for the
+// choosers and drag and drop; once per thread that shows windows.
+void InitWindowThread();
+
 // What the executable does: the common controls, the user interface, Main and the message loop. Returns the
 // process's exit status: 0 after a normal end.
 int RunProgram(int argc, char** argv);

@@ -36,6 +36,7 @@ void ModalDialog::Dismiss() {
 }
 
 void ModalDialog::OnInit() {
+    MakeControls();
     TranslateDialog();
     OnShow();
 }

@@ -30,6 +30,8 @@ protected:
     ModalDialog(const char* name, int layout, const char* section)
         : Dialog(name), m_layout(layout), m_section(section) {}
 
+    // Makes the controls that the layout does not hold, before the window is translated.
+    virtual void MakeControls() {}
     virtual void TranslateDialog() = 0;
     // Puts what InitDialog was given into the controls, once they exist and speak the chosen language.
     virtual void OnShow() {}

@@ -19,6 +19,11 @@
 #define IDD_frmLoadProfile 113
 #define IDD_frmSave 114
 #define IDD_frmProfiles 115
+#define IDD_frmOptions 116
+#define IDD_frmInfo 117
+#define IDD_InfoPage_0 118
+#define IDD_InfoPage_1 119
+#define IDD_InfoPage_2 120
 
 // frmMain.
 #define IDC_ucTab1_0 1000
@@ -76,6 +81,8 @@
 #define IDM_mnuHelp_FAQ_EN 2008
 #define IDM_mnuHelp_Webpage 2009
 #define IDM_mnuFile_SendFeedback 2010
+#define IDM_mnuExtra_Options 2011
+#define IDM_mnuHelp_About 2012
 #define IDM_mnuOptions_Lang_Item_0 2100
 #define IDM_mnuProfile_List_0 3000
 #define IDM_mnuProfile_List_Last 9999
@@ -106,3 +113,15 @@
 #define IDC_ucProfiles1 1241
 #define IDC_lblListTitle 1242
 #define IDC_lblListInfo 1243
+#define IDC_lblEditor 1250
+#define IDC_txtEditorPath 1251
+#define IDC_cmdEditorPath 1252
+#define IDC_ckSafetyPromptBeforeStartOfTarvolin 1253
+#define IDC_ucTab2_0 1260
+#define IDC_Shape2 1265
+#define IDC_lblProgram 1266
+#define IDC_lblCredits 1267
+#define IDC_lblWebpage 1268
+#define IDC_lblWebpageLink 1269
+#define IDC_lblEmail 1270
+#define IDC_lblEmailLink 1271

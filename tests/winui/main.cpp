@@ -6,10 +6,10 @@
 #include <commctrl.h>
 #include <objbase.h>
 
+#include "winui/Main.h"
+
 int main(int argc, char** argv) {
-    INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX), ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
-    InitCommonControlsEx(&controls);
-    OleInitialize(nullptr);
+    InitWindowThread();
     testing::InitGoogleTest(&argc, argv);
     const int status = RUN_ALL_TESTS();
     OleUninitialize();

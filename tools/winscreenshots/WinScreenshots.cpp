@@ -30,6 +30,7 @@ using std::min;
 #include "winui/Win32UserInterface.h"
 #include "winui/WinText.h"
 #include "winui/dialogs/frmEditProfile.h"
+#include "winui/dialogs/frmInfo.h"
 #include "winui/dialogs/frmProfiles.h"
 #include "winui/main/frmMain.h"
 
@@ -121,9 +122,17 @@ void RenderLanguage(const std::string& folder, const std::string& language) {
                                                    {IDD_frmEditProfile, "frmEditProfile"},
                                                    {IDD_frmLoadProfile, "frmLoadProfile"},
                                                    {IDD_frmSave, "frmSave"},
-                                                   {IDD_frmProfiles, "frmProfiles"}};
+                                                   {IDD_frmProfiles, "frmProfiles"},
+                                                   {IDD_frmOptions, "frmOptions"}};
     ModalRunners runners;
     runners.dialogs = [&windows](ModalDialog& dialog) {
+        if (auto* about = dynamic_cast<frmInfo*>(&dialog)) {
+            for (int page : {0, 2}) {
+                about->ucTab1_Click(page);
+                Grab(about->Handle(), "frmInfo_" + std::to_string(page));
+            }
+            about->Dismiss();
+        }
         for (const auto& [layout, name] : windows)
             if (dialog.Layout() == layout)
                 GrabModal(dialog, name);
@@ -139,6 +148,8 @@ void RenderLanguage(const std::string& folder, const std::string& language) {
     frmProfiles profiles;
     profiles.InitDialog();
     profiles.ShowModal(main->Handle());
+    SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuExtra_Options, 0);
+    SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuHelp_About, 0);
     active.SetFreeplay(!active.Freeplay());
     Ui().ShowSaveDialog();
     // A width that is no number: the report of the failed save.
@@ -158,9 +169,7 @@ int main(int argc, char** argv) {
     }
     g_output = argv[1];
     CreateDirectoryA(g_output.c_str(), nullptr);
-    INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX), ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
-    InitCommonControlsEx(&controls);
-    OleInitialize(nullptr);
+    InitWindowThread();
     ULONG_PTR token = 0;
     Gdiplus::GdiplusStartupInput input;
     Gdiplus::GdiplusStartup(&token, &input, nullptr);

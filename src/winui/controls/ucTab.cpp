@@ -1,6 +1,7 @@
 #include "winui/controls/ucTab.h"
 
 #include "winui/WinText.h"
+#include "winui/controls/PageTabAccessible.h"
 
 namespace ucTab {
 
@@ -68,6 +69,60 @@ void DrawArea(const DRAWITEMSTRUCT& item, int left, int right) {
     const int edge = Scaled(area, 2);
     RECT gap{left + edge, item.rcItem.top, right - edge, item.rcItem.top + Scaled(area, 1)};
     FillRect(item.hDC, &gap, FillBrush());
+}
+
+std::optional<INT_PTR> PageColours(UINT message, WPARAM wParam) {
+    if (message != WM_CTLCOLORDLG && message != WM_CTLCOLORSTATIC && message != WM_CTLCOLORBTN)
+        return std::nullopt;
+    SetBkColor(reinterpret_cast<HDC>(wParam), kFill);
+    SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNTEXT));
+    return reinterpret_cast<INT_PTR>(FillBrush());
+}
+
+RECT PlaceInParent(HWND control) {
+    RECT box{};
+    GetWindowRect(control, &box);
+    MapWindowPoints(HWND_DESKTOP, GetParent(control), reinterpret_cast<POINT*>(&box), 2);
+    return box;
+}
+
+void Row::Attach(HWND dialog) {
+    m_dialog = dialog;
+    for (int i = 0; i < m_count; ++i)
+        PageTabAccessible::Announce(Tab(i), [this, i] { return m_active == i; });
+}
+
+void Row::Place() const {
+    const RECT area = PlaceInParent(GetDlgItem(m_dialog, m_area));
+    int left = area.left;
+    for (int i = 0; i < m_count; ++i) {
+        const RECT box = PlaceInParent(Tab(i));
+        const int width = WidthFor(Tab(i));
+        MoveWindow(Tab(i), left, box.top, width, area.top - box.top, TRUE);
+        left += width;
+    }
+}
+
+void Row::Select(int index) {
+    m_active = index;
+    for (int i = 0; i < m_count; ++i)
+        InvalidateRect(Tab(i), nullptr, TRUE);
+    InvalidateRect(GetDlgItem(m_dialog, m_area), nullptr, TRUE);
+    NotifyWinEvent(EVENT_OBJECT_SELECTION, Tab(index), OBJID_CLIENT, CHILDID_SELF);
+}
+
+bool Row::Draw(const DRAWITEMSTRUCT& item) const {
+    const int id = static_cast<int>(item.CtlID);
+    if (id == m_area) {
+        const RECT tab = PlaceInParent(Tab(m_active));
+        const RECT area = PlaceInParent(item.hwndItem);
+        DrawArea(item, tab.left - area.left, tab.right - area.left);
+        return true;
+    }
+    if (IndexOf(id) < 0)
+        return false;
+    ucTab::Draw(item, IndexOf(id) == m_active);
+    return true;
 }
 
 }  // namespace ucTab

@@ -6,6 +6,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 namespace ucTab {
@@ -28,5 +29,39 @@ void Draw(const DRAWITEMSTRUCT& item, bool active);
 // Draws the page area (ucTabArea), leaving its top line open under the active tab, which spans `left` to
 // `right` in the area's coordinates.
 void DrawArea(const DRAWITEMSTRUCT& item, int left, int right);
+
+// A page on the tab area shows the area's fill behind its texts: the answer to its WM_CTLCOLORDLG,
+// WM_CTLCOLORSTATIC and WM_CTLCOLORBTN, and nothing for any other message.
+std::optional<INT_PTR> PageColours(UINT message, WPARAM wParam);
+
+// A rectangle of `control` in the coordinates of its parent.
+RECT PlaceInParent(HWND control);
+
+// A dialog's row of tabs, numbered on from `first`, on the tab area `area`: it places, draws and selects
+// them, and makes them announce themselves as page tabs.
+class Row {
+public:
+    Row(int first, int count, int area) : m_first(first), m_count(count), m_area(area) {}
+
+    // Once the dialog's controls exist.
+    void Attach(HWND dialog);
+    // Each tab as wide as its caption, side by side on the area's upper edge.
+    void Place() const;
+    // Makes tab `index` the active one and redraws the row.
+    void Select(int index);
+    int Active() const { return m_active; }
+    HWND Tab(int index) const { return GetDlgItem(m_dialog, m_first + index); }
+    // The index of the tab with control number `id`, or -1.
+    int IndexOf(int id) const { return id >= m_first && id < m_first + m_count ? id - m_first : -1; }
+    // Draws `item` when it is one of the row's tabs or its area; false when it is neither.
+    bool Draw(const DRAWITEMSTRUCT& item) const;
+
+private:
+    HWND m_dialog = nullptr;
+    int m_first;
+    int m_count;
+    int m_area;
+    int m_active = 0;
+};
 
 }  // namespace ucTab

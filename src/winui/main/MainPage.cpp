@@ -28,16 +28,7 @@ void MainPage::OnCommand(int id, int code) {
 }
 
 std::optional<INT_PTR> MainPage::OnMessage(UINT message, WPARAM wParam, LPARAM) {
-    switch (message) {
-        case WM_CTLCOLORDLG:
-        case WM_CTLCOLORSTATIC:
-        case WM_CTLCOLORBTN:
-            SetBkColor(reinterpret_cast<HDC>(wParam), ucTab::kFill);
-            SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNTEXT));
-            return reinterpret_cast<INT_PTR>(ucTab::FillBrush());
-        default:
-            return std::nullopt;
-    }
+    return ucTab::PageColours(message, wParam);
 }
 
 void MainPage::SetCaption(int id, Mnemonics& keys, const std::string& text) {

@@ -11,7 +11,6 @@
 #include "resource.h"
 #include "translate/cTranslate.h"
 #include "winui/WinText.h"
-#include "winui/controls/PageTabAccessible.h"
 #include "winui/controls/ucTab.h"
 #include "winui/main/DisplayPage.h"
 #include "winui/main/Pages.h"
@@ -26,14 +25,6 @@ constexpr int kPageHeightLoss = 17;
 
 // Puts the focus into the control in wParam.
 constexpr UINT kFocusLater = WM_APP + 1;
-
-// A rectangle of `control` in the coordinates of its parent.
-RECT PlaceOf(HWND control) {
-    RECT box{};
-    GetWindowRect(control, &box);
-    MapWindowPoints(HWND_DESKTOP, GetParent(control), reinterpret_cast<POINT*>(&box), 2);
-    return box;
-}
 
 }  // namespace
 
@@ -60,8 +51,7 @@ void frmMain::OnInit() {
     HICON icon = LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_PAVONEL));
     SendMessageA(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
     SendMessageA(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
-    for (int i = 0; i < kTabCount; ++i)
-        PageTabAccessible::Announce(Item(IDC_ucTab1_0 + i), [this, i] { return m_activeTab == i; });
+    m_tabs.Attach(Handle());
     picPage[1]->Create(Handle());
     PlaceInTabOrder(*picPage[1]);
     // The layout is the room inside the window; the menu bar takes its height from there unless the
@@ -85,25 +75,8 @@ void frmMain::InitDialog() try {
     mError::PassOn("frmMain.InitDialog");
 }
 
-// Each tab is as wide as its caption; they stand side by side on the tab area's upper edge.
-void frmMain::PlaceTabs() {
-    const RECT area = PlaceOf(Item(IDC_Shape1));
-    int left = area.left;
-    for (int i = 0; i < kTabCount; ++i) {
-        const HWND tab = Item(IDC_ucTab1_0 + i);
-        const RECT box = PlaceOf(tab);
-        const int width = ucTab::WidthFor(tab);
-        MoveWindow(tab, left, box.top, width, area.top - box.top, TRUE);
-        left += width;
-    }
-}
-
 void frmMain::ucTab1_Click(int index) try {
-    m_activeTab = index;
-    for (int i = 0; i < kTabCount; ++i)
-        InvalidateRect(Item(IDC_ucTab1_0 + i), nullptr, TRUE);
-    NotifyWinEvent(EVENT_OBJECT_SELECTION, Item(IDC_ucTab1_0 + index), OBJID_CLIENT, CHILDID_SELF);
-    InvalidateRect(Item(IDC_Shape1), nullptr, TRUE);
+    m_tabs.Select(index);
     ActivatePage(index + 1);
 } catch (...) {
     mError::ShowError("frmMain.ucTab1_Click");
@@ -137,13 +110,13 @@ void frmMain::MakePage(int page) {
 
 void frmMain::ActivatePage(int page) try {
     MakePage(page);
-    const RECT area = PlaceOf(Item(IDC_Shape1));
+    const RECT area = ucTab::PlaceInParent(Item(IDC_Shape1));
     const HWND focus = GetFocus();
     for (int i = 1; i <= kTabCount; ++i) {
         const HWND window = picPage[i]->Handle();
         if (i != page) {
             if (focus != nullptr && IsChild(window, focus))
-                SetFocus(Item(IDC_ucTab1_0 + m_activeTab));
+                SetFocus(m_tabs.Tab(m_tabs.Active()));
             ShowWindow(window, SW_HIDE);
             continue;
         }
@@ -171,7 +144,7 @@ bool frmMain::TranslateKeys(const MSG& message) {
         step = message.wParam == VK_NEXT ? 1 : -1;
     if (step == 0)
         return false;
-    ucTab1_Click((m_activeTab + step + kTabCount) % kTabCount);
+    ucTab1_Click((m_tabs.Active() + step + kTabCount) % kTabCount);
     return true;
 }
 
@@ -253,7 +226,7 @@ void frmMain::TranslateDialog() try {
     TranslatePages();
     TranslateMenus();
     UpdateVersionLabels();
-    PlaceTabs();
+    m_tabs.Place();
     InvalidateRect(Handle(), nullptr, TRUE);
 } catch (...) {
     mError::PassOn("frmMain.TranslateDialog");
@@ -285,17 +258,8 @@ void frmMain::UpdateVersionLabels() try {
 
 std::optional<INT_PTR> frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_DRAWITEM: {
-            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-            if (item.CtlID == IDC_Shape1) {
-                const RECT tab = PlaceOf(Item(IDC_ucTab1_0 + m_activeTab));
-                const RECT area = PlaceOf(item.hwndItem);
-                ucTab::DrawArea(item, tab.left - area.left, tab.right - area.left);
-            } else {
-                ucTab::Draw(item, static_cast<int>(item.CtlID) == IDC_ucTab1_0 + m_activeTab);
-            }
-            return TRUE;
-        }
+        case WM_DRAWITEM:
+            return m_tabs.Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         case kFocusLater:
             SetFocus(reinterpret_cast<HWND>(wParam));
             return TRUE;
@@ -310,8 +274,8 @@ std::optional<INT_PTR> frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lP
             PostQuitMessage(0);
             return FALSE;
         case WM_DPICHANGED:
-            PlaceTabs();
-            ActivatePage(m_activeTab + 1);
+            m_tabs.Place();
+            ActivatePage(m_tabs.Active() + 1);
             return std::nullopt;
         default:
             return std::nullopt;

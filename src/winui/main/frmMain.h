@@ -15,7 +15,9 @@
 
 #include "mainwindow/MainWindowValues.h"
 #include "platform/FileSystem.h"
+#include "resource.h"
 #include "winui/Dialog.h"
+#include "winui/controls/ucTab.h"
 
 class DisplayPage;
 class ExtraPage;
@@ -54,7 +56,7 @@ public:
     // Activates tab `index` and shows page index + 1.
     void ucTab1_Click(int index);
     // The page shown now, counted from 1.
-    int ActivePage() const { return m_activeTab + 1; }
+    int ActivePage() const { return m_tabs.Active() + 1; }
 
     // Keys the window takes before its controls: Ctrl+Tab and Ctrl+Shift+Tab (and Ctrl+PageDown and
     // Ctrl+PageUp) turn the pages. True when `message` was taken.
@@ -67,7 +69,6 @@ protected:
 
 private:
     // Building and binding (frmMain.cpp).
-    void PlaceTabs();
     void PlaceInTabOrder(MainPage& page);
     void MakePage(int page);
     void ActivatePage(int page);
@@ -106,7 +107,7 @@ private:
     std::unique_ptr<RefreshPage> m_refresh;
     std::unique_ptr<ExtraPage> m_extra;
     std::array<MainPage*, kTabCount + 1> picPage{};  // pages 1 to 5; index 0 unused
-    int m_activeTab = 0;
+    ucTab::Row m_tabs{IDC_ucTab1_0, kTabCount, IDC_Shape1};
     MainWindowValues m_shown;  // the values last shown, which pages not made yet keep
 
     HMENU mnuFile_Profiles = nullptr;

@@ -11,6 +11,8 @@
 #include "profiles/Profiles.h"
 #include "resource.h"
 #include "winui/dialogs/frmEditProfile.h"
+#include "winui/dialogs/frmInfo.h"
+#include "winui/dialogs/frmOptions.h"
 #include "winui/dialogs/frmProfiles.h"
 #include "winui/main/Pages.h"
 #include "winui/main/frmMain.h"
@@ -30,9 +32,9 @@ struct Command {
 }  // namespace
 
 void frmMain::OnCommand(int id, int code) {
-    if (id >= IDC_ucTab1_0 && id < IDC_ucTab1_0 + kTabCount) {
+    if (m_tabs.IndexOf(id) >= 0) {
         if (code == BN_CLICKED)
-            ucTab1_Click(id - IDC_ucTab1_0);
+            ucTab1_Click(m_tabs.IndexOf(id));
     } else if (id == IDCANCEL) {
         // Escape closes no main window: it is the window of the program, not a dialog.
     } else if (id >= IDM_mnuProfile_List_0 && id <= IDM_mnuProfile_List_Last) {
@@ -70,6 +72,20 @@ void frmMain::RunCommand(int id) {
          "frmMain.mnuProfil_Manager_Click"},
         {IDM_mnuEditCopy_CmdLine, [](frmMain& w, HWND) { w.mnuEditCopy_CmdLine_Click(); },
          "frmMain.mnuEditCopy_CmdLine_Click"},
+        {IDM_mnuExtra_Options,
+         [](frmMain& w, HWND) {
+             frmOptions dialog;
+             dialog.InitDialog();
+             dialog.ShowModal(w.Handle());
+         },
+         "frmMain.mnuExtra_Options_Click"},
+        {IDM_mnuHelp_About,
+         [](frmMain& w, HWND) {
+             frmInfo dialog;
+             dialog.InitDialog();
+             dialog.ShowModal(w.Handle());
+         },
+         "frmMain.mnuHelp_About_Click"},
         {IDM_mnuExtra_Accessories_LanguageEditor,
          [](frmMain&, HWND h) {
              Os().ShellExec(Owner(h), "open", "LanguageEditor.exe", "", App().GetToolsDirectory(),

@@ -121,10 +121,12 @@ void frmMain::HighligthSelectedLanguage() try {
     mError::PassOn("frmMain.HighligthSelectedLanguage");
 }
 
+// Everything below the language list: the options, and the accessories when the language editor is there.
 void frmMain::RefreshAccessoriesMenu() try {
     const int count = GetMenuItemCount(mnuExtra);
     for (int i = count - 1; i >= 1; --i)
         DeleteMenu(mnuExtra, static_cast<UINT>(i), MF_BYPOSITION);
+    Add(mnuExtra, IDM_mnuExtra_Options, "MNU_EXTRA_OPTIONS");
     if (!frmMainLists::HasLanguageEditor(App()))
         return;
     AppendMenuA(mnuExtra, MF_SEPARATOR, 0, nullptr);
@@ -147,6 +149,8 @@ void frmMain::HideFAQMenu() try {
     AppendMenuA(mnuHelp, MF_SEPARATOR, 0, nullptr);
     Add(mnuHelp, IDM_mnuHelp_Webpage, "MNU_HELP_HOMEPAGE");
     Add(mnuHelp, IDM_mnuFile_SendFeedback, "MNU_HELP_FEEDBACK");
+    AppendMenuA(mnuHelp, MF_SEPARATOR, 0, nullptr);
+    Add(mnuHelp, IDM_mnuHelp_About, "MNU_HELP_ABOUT");
     DrawMenuBar(Handle());
 } catch (...) {
     mError::PassOn("frmMain.HideFAQMenu");
