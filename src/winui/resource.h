@@ -83,6 +83,13 @@
 #define IDM_mnuFile_SendFeedback 2010
 #define IDM_mnuExtra_Options 2011
 #define IDM_mnuHelp_About 2012
+#define IDM_mnuFile_ImportProfile 2013
+#define IDM_mnuFile_ExportProfile 2014
+#define IDM_mnuProfile_Rename 2015
+#define IDM_mnuProfile_Duplicate 2016
+#define IDM_mnuProfile_Delete 2017
+#define IDM_mnuEditCopy_Profile 2018
+#define IDM_mnuEditPaste_Profile 2019
 #define IDM_mnuOptions_Lang_Item_0 2100
 #define IDM_mnuProfile_List_0 3000
 #define IDM_mnuProfile_List_Last 9999
@@ -113,6 +120,9 @@
 #define IDC_ucProfiles1 1241
 #define IDC_lblListTitle 1242
 #define IDC_lblListInfo 1243
+#define IDC_cmdRename 1244
+#define IDC_cmdDuplicate 1245
+#define IDC_cmdDelete 1246
 #define IDC_lblEditor 1250
 #define IDC_txtEditorPath 1251
 #define IDC_cmdEditorPath 1252

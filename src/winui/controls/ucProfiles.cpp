@@ -83,3 +83,14 @@ std::string ucProfiles::GetSelectedItems() const try {
 void ucProfiles::SelectAllProfiles() {
     ListView_SetItemState(m_list, -1, LVIS_SELECTED, LVIS_SELECTED);
 }
+
+void ucProfiles::SelectProfile(const std::string& name) {
+    for (std::size_t row = 0; row < m_names.size(); ++row) {
+        if (m_names[row] != name)
+            continue;
+        const int index = static_cast<int>(row);
+        ListView_SetItemState(m_list, index, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        ListView_EnsureVisible(m_list, index, FALSE);
+        return;
+    }
+}

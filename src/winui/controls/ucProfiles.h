@@ -22,6 +22,8 @@ public:
     // The names of the selected rows in list order, joined by ";".
     std::string GetSelectedItems() const;
     void SelectAllProfiles();
+    // Selects the row of the profile named `name` and gives it the focus, when the list has it.
+    void SelectProfile(const std::string& name);
 
 private:
     HWND m_list = nullptr;

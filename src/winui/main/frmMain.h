@@ -86,6 +86,12 @@ private:
     void mnuProfile_Edit_Click();
     void mnuProfile_List_Click(int index);
     void mnuProfil_Manager_Click();
+    void mnuProfile_Rename_Click();
+    void mnuProfile_Duplicate_Click();
+    void mnuProfile_Delete_Click();
+    void mnuFile_ImportProfile_Click();
+    void mnuEditPaste_Profile_Click();
+    void ShowMadeProfile(Profile* profile);
     void mnuEditCopy_CmdLine_Click();
     void mnuOptions_Lang_Item_Click(int index);
     void Form_QueryUnloadAndClose();

@@ -9,6 +9,7 @@
 #include "platform/Platform.h"
 #include "profiles/Profile.h"
 #include "profiles/Profiles.h"
+#include "profiles/mManageProfiles.h"
 #include "resource.h"
 #include "winui/dialogs/frmEditProfile.h"
 #include "winui/dialogs/frmInfo.h"
@@ -70,6 +71,28 @@ void frmMain::RunCommand(int id) {
          "frmMain.mnuProfile_Edit_Click"},
         {IDM_mnuProfil_Manager, [](frmMain& w, HWND) { w.mnuProfil_Manager_Click(); },
          "frmMain.mnuProfil_Manager_Click"},
+        {IDM_mnuProfile_Rename, [](frmMain& w, HWND) { w.mnuProfile_Rename_Click(); },
+         "frmMain.mnuProfile_Rename_Click"},
+        {IDM_mnuProfile_Duplicate, [](frmMain& w, HWND) { w.mnuProfile_Duplicate_Click(); },
+         "frmMain.mnuProfile_Duplicate_Click"},
+        {IDM_mnuProfile_Delete, [](frmMain& w, HWND) { w.mnuProfile_Delete_Click(); },
+         "frmMain.mnuProfile_Delete_Click"},
+        {IDM_mnuFile_ImportProfile, [](frmMain& w, HWND) { w.mnuFile_ImportProfile_Click(); },
+         "frmMain.mnuFile_ImportProfile_Click"},
+        {IDM_mnuFile_ExportProfile,
+         [](frmMain& w, HWND h) {
+             w.RefreshProfileData();
+             mManageProfiles::ExportProfile(*App().ActiveProfile(), Owner(h));
+         },
+         "frmMain.mnuFile_ExportProfile_Click"},
+        {IDM_mnuEditCopy_Profile,
+         [](frmMain& w, HWND) {
+             w.RefreshProfileData();
+             mManageProfiles::CopyProfile(*App().ActiveProfile());
+         },
+         "frmMain.mnuEditCopy_Profile_Click"},
+        {IDM_mnuEditPaste_Profile, [](frmMain& w, HWND) { w.mnuEditPaste_Profile_Click(); },
+         "frmMain.mnuEditPaste_Profile_Click"},
         {IDM_mnuEditCopy_CmdLine, [](frmMain& w, HWND) { w.mnuEditCopy_CmdLine_Click(); },
          "frmMain.mnuEditCopy_CmdLine_Click"},
         {IDM_mnuExtra_Options,
@@ -140,10 +163,49 @@ void frmMain::mnuProfile_List_Click(int index) {
     LoadData(App().Profiles().Item(m_profileTags.at(static_cast<std::size_t>(index))));
 }
 
+// The window may rename, duplicate or delete profiles: the active one (a copy, or the standard profile in the
+// place of a deleted one) is then shown afresh, with the menu listing the profiles as they are.
 void frmMain::mnuProfil_Manager_Click() {
+    RefreshProfileData();
     frmProfiles dialog;
     dialog.InitDialog();
     dialog.ShowModal(Handle());
+    if (dialog.ProfilesChanged())
+        LoadData(*App().ActiveProfile());
+}
+
+// The commands on whole profiles act on the profile with the window's input written into it.
+void frmMain::mnuProfile_Rename_Click() {
+    RefreshProfileData();
+    if (mManageProfiles::RenameProfile(*App().ActiveProfile()))
+        FillProfileList();
+}
+
+void frmMain::mnuProfile_Duplicate_Click() {
+    RefreshProfileData();
+    ShowMadeProfile(mManageProfiles::DuplicateProfile(*App().ActiveProfile()));
+}
+
+// Deleting the active profile shows the standard profile, which took its place.
+void frmMain::mnuProfile_Delete_Click() {
+    RefreshProfileData();
+    if (mManageProfiles::DeleteProfile(*App().ActiveProfile()))
+        LoadData(*App().ActiveProfile());
+}
+
+void frmMain::mnuFile_ImportProfile_Click() {
+    RefreshProfileData();
+    ShowMadeProfile(mManageProfiles::ImportProfile(Owner(Handle())));
+}
+
+void frmMain::mnuEditPaste_Profile_Click() {
+    RefreshProfileData();
+    ShowMadeProfile(mManageProfiles::PasteProfile());
+}
+
+void frmMain::ShowMadeProfile(Profile* profile) {
+    if (profile != nullptr)
+        LoadData(*profile);
 }
 
 void frmMain::mnuEditCopy_CmdLine_Click() {

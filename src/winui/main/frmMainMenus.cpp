@@ -61,10 +61,16 @@ void frmMain::TranslateMenus() {
     HMENU file = AddPopup(bar, "MNU_FILE");
     Add(file, IDM_mnuFile_Save, "MNU_FILE_SAVE");
     AppendMenuA(file, MF_SEPARATOR, 0, nullptr);
+    Add(file, IDM_mnuFile_ImportProfile, "MNU_FILE_IMPORTPROFILE");
+    Add(file, IDM_mnuFile_ExportProfile, "MNU_FILE_EXPORTPROFILE");
+    AppendMenuA(file, MF_SEPARATOR, 0, nullptr);
     Add(file, IDM_mnuFile_Quit, "MNU_FILE_QUIT");
     mnuFile_Profiles = AddPopup(bar, "MNU_PROFILES");
     HMENU edit = AddPopup(bar, "MNU_EDIT");
     Add(edit, IDM_mnuEditCopy_CmdLine, "MNU_EDIT_COPYCMDLINE");
+    AppendMenuA(edit, MF_SEPARATOR, 0, nullptr);
+    Add(edit, IDM_mnuEditCopy_Profile, "MNU_EDIT_COPYPROFILE");
+    Add(edit, IDM_mnuEditPaste_Profile, "MNU_EDIT_PASTEPROFILE");
     mnuExtra = AddPopup(bar, "MNU_EXTRA");
     mnuHelp = AddPopup(bar, "MNU_HELP");
     HMENU old = GetMenu(Handle());
@@ -90,6 +96,9 @@ void frmMain::ShowProfileList() try {
         DeleteMenu(mnuFile_Profiles, 0, MF_BYPOSITION);
     Add(mnuFile_Profiles, IDM_mnuProfile_New, "MNU_PROFILES_NEW");
     Add(mnuFile_Profiles, IDM_mnuProfile_Edit, "MNU_PROFILES_EDIT");
+    Add(mnuFile_Profiles, IDM_mnuProfile_Rename, "MNU_PROFILES_RENAME");
+    Add(mnuFile_Profiles, IDM_mnuProfile_Duplicate, "MNU_PROFILES_DUPLICATE");
+    Add(mnuFile_Profiles, IDM_mnuProfile_Delete, "MNU_PROFILES_DELETE");
     Add(mnuFile_Profiles, IDM_mnuProfil_Manager, "MNU_PROFILES_MANAGER");
     AppendMenuA(mnuFile_Profiles, MF_SEPARATOR, 0, nullptr);
     m_profileTags = AddBuilt(mnuFile_Profiles, IDM_mnuProfile_List_0,
