@@ -10,6 +10,7 @@
 #include "platform/Platform.h"
 #include "profiles/Profile.h"
 #include "profiles/Profiles.h"
+#include "profiles/mManageProfiles.h"
 #include "translate/cTranslate.h"
 
 namespace frmMainCommands {
@@ -99,6 +100,28 @@ void Unload(const std::function<void(platform::WriteFault)>& tellUnsaved) {
         tellUnsaved(fault);
     App().Profiles().SaveWhichProfileIsActive();
     mMain::ClosePublicObjects();
+}
+
+Profile* RunProfileCommand(ProfileCommand command, const std::function<void()>& refresh, int64_t owner) {
+    refresh();
+    Profile& active = *App().ActiveProfile();
+    switch (command) {
+        case ProfileCommand::Duplicate:
+            return mManageProfiles::DuplicateProfile(active);
+        case ProfileCommand::Delete:
+            return mManageProfiles::DeleteProfile(active) ? App().ActiveProfile() : nullptr;
+        case ProfileCommand::Copy:
+            mManageProfiles::CopyProfile(active);
+            return nullptr;
+        case ProfileCommand::Paste:
+            return mManageProfiles::PasteProfile();
+        case ProfileCommand::Export:
+            mManageProfiles::ExportProfile(active, owner);
+            return nullptr;
+        case ProfileCommand::Import:
+            return mManageProfiles::ImportProfile(owner);
+    }
+    return nullptr;
 }
 
 }  // namespace frmMainCommands

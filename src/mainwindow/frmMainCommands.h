@@ -32,6 +32,13 @@ void OpenLogFile(int64_t owner);
 // Opens the game's folder, or says that it is not there.
 void OpenGameFolder(int64_t owner);
 
+// The commands on whole profiles but rename (see mManageProfiles). They act on the active profile with the
+// window's input written into it by `refresh`; `owner` is the window. Each returns the profile the window
+// is to show afresh (a new one after a duplicate, paste or import, the one in the place of a deleted one),
+// or nullptr when the window stays as it is.
+enum class ProfileCommand { Duplicate, Delete, Copy, Paste, Export, Import };
+Profile* RunProfileCommand(ProfileCommand command, const std::function<void()>& refresh, int64_t owner);
+
 // The close question. `refresh` writes the window into the active profile, `save` saves like the Save
 // command. True when the window may close: after saving, after No, never after Cancel or a save that did
 // not reach the file. A failure is reported, then the user decides whether to quit anyway.

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "mainwindow/MainWindowValues.h"
+#include "mainwindow/frmMainCommands.h"
 #include "platform/FileSystem.h"
 
 class DisplayPage;
@@ -107,6 +108,7 @@ private:
     void mnuEditCopy_Profile_Click();
     void mnuEditPaste_Profile_Click();
     // Shows `profile` when it is a new one made by a command, and lists the profiles as they are now.
+    void RunProfileCommand(frmMainCommands::ProfileCommand command);
     void ShowMadeProfile(Profile* profile);
     void mnuExtra_CreateShortcut_Click();
     void mnuExtra_Options_Click();

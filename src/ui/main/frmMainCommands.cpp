@@ -76,13 +76,11 @@ void frmMain::mnuFile_Quit_Click() {
 
 // The commands on whole profiles act on the profile with the window's input written into it.
 void frmMain::mnuFile_ImportProfile_Click() {
-    RefreshProfileData();
-    ShowMadeProfile(mManageProfiles::ImportProfile(Owner(this)));
+    RunProfileCommand(frmMainCommands::ProfileCommand::Import);
 }
 
 void frmMain::mnuFile_ExportProfile_Click() {
-    RefreshProfileData();
-    mManageProfiles::ExportProfile(*App().ActiveProfile(), Owner(this));
+    RunProfileCommand(frmMainCommands::ProfileCommand::Export);
 }
 
 void frmMain::mnuFile_SendFeedback_Click() {
@@ -108,15 +106,17 @@ void frmMain::mnuProfile_Rename_Click() {
 }
 
 void frmMain::mnuProfile_Duplicate_Click() {
-    RefreshProfileData();
-    ShowMadeProfile(mManageProfiles::DuplicateProfile(*App().ActiveProfile()));
+    RunProfileCommand(frmMainCommands::ProfileCommand::Duplicate);
 }
 
 // Deleting the active profile shows the standard profile, which took its place.
 void frmMain::mnuProfile_Delete_Click() {
-    RefreshProfileData();
-    if (mManageProfiles::DeleteProfile(*App().ActiveProfile()))
-        LoadData(*App().ActiveProfile());
+    RunProfileCommand(frmMainCommands::ProfileCommand::Delete);
+}
+
+void frmMain::RunProfileCommand(frmMainCommands::ProfileCommand command) {
+    ShowMadeProfile(frmMainCommands::RunProfileCommand(
+        command, [this] { RefreshProfileData(); }, Owner(this)));
 }
 
 void frmMain::ShowMadeProfile(Profile* profile) {
@@ -148,13 +148,11 @@ void frmMain::mnuEditCopy_CmdLine_Click() {
 }
 
 void frmMain::mnuEditCopy_Profile_Click() {
-    RefreshProfileData();
-    mManageProfiles::CopyProfile(*App().ActiveProfile());
+    RunProfileCommand(frmMainCommands::ProfileCommand::Copy);
 }
 
 void frmMain::mnuEditPaste_Profile_Click() {
-    RefreshProfileData();
-    ShowMadeProfile(mManageProfiles::PasteProfile());
+    RunProfileCommand(frmMainCommands::ProfileCommand::Paste);
 }
 
 // The wizard gets the profile with the window's input written into it.

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "mainwindow/MainWindowValues.h"
+#include "mainwindow/frmMainCommands.h"
 #include "platform/FileSystem.h"
 #include "resource.h"
 #include "winui/Dialog.h"
@@ -87,11 +88,7 @@ private:
     void mnuProfile_List_Click(int index);
     void mnuProfil_Manager_Click();
     void mnuProfile_Rename_Click();
-    void mnuProfile_Duplicate_Click();
-    void mnuProfile_Delete_Click();
-    void mnuFile_ImportProfile_Click();
-    void mnuEditPaste_Profile_Click();
-    void ShowMadeProfile(Profile* profile);
+    void RunProfileCommand(frmMainCommands::ProfileCommand command);
     void mnuEditCopy_CmdLine_Click();
     void mnuOptions_Lang_Item_Click(int index);
     void Form_QueryUnloadAndClose();

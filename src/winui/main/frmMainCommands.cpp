@@ -24,6 +24,8 @@ int64_t Owner(HWND window) {
     return static_cast<int64_t>(reinterpret_cast<intptr_t>(window));
 }
 
+using frmMainCommands::ProfileCommand;
+
 struct Command {
     int id;
     void (*run)(frmMain& window, HWND handle);
@@ -73,25 +75,17 @@ void frmMain::RunCommand(int id) {
          "frmMain.mnuProfil_Manager_Click"},
         {IDM_mnuProfile_Rename, [](frmMain& w, HWND) { w.mnuProfile_Rename_Click(); },
          "frmMain.mnuProfile_Rename_Click"},
-        {IDM_mnuProfile_Duplicate, [](frmMain& w, HWND) { w.mnuProfile_Duplicate_Click(); },
+        {IDM_mnuProfile_Duplicate, [](frmMain& w, HWND) { w.RunProfileCommand(ProfileCommand::Duplicate); },
          "frmMain.mnuProfile_Duplicate_Click"},
-        {IDM_mnuProfile_Delete, [](frmMain& w, HWND) { w.mnuProfile_Delete_Click(); },
+        {IDM_mnuProfile_Delete, [](frmMain& w, HWND) { w.RunProfileCommand(ProfileCommand::Delete); },
          "frmMain.mnuProfile_Delete_Click"},
-        {IDM_mnuFile_ImportProfile, [](frmMain& w, HWND) { w.mnuFile_ImportProfile_Click(); },
+        {IDM_mnuFile_ImportProfile, [](frmMain& w, HWND) { w.RunProfileCommand(ProfileCommand::Import); },
          "frmMain.mnuFile_ImportProfile_Click"},
-        {IDM_mnuFile_ExportProfile,
-         [](frmMain& w, HWND h) {
-             w.RefreshProfileData();
-             mManageProfiles::ExportProfile(*App().ActiveProfile(), Owner(h));
-         },
+        {IDM_mnuFile_ExportProfile, [](frmMain& w, HWND) { w.RunProfileCommand(ProfileCommand::Export); },
          "frmMain.mnuFile_ExportProfile_Click"},
-        {IDM_mnuEditCopy_Profile,
-         [](frmMain& w, HWND) {
-             w.RefreshProfileData();
-             mManageProfiles::CopyProfile(*App().ActiveProfile());
-         },
+        {IDM_mnuEditCopy_Profile, [](frmMain& w, HWND) { w.RunProfileCommand(ProfileCommand::Copy); },
          "frmMain.mnuEditCopy_Profile_Click"},
-        {IDM_mnuEditPaste_Profile, [](frmMain& w, HWND) { w.mnuEditPaste_Profile_Click(); },
+        {IDM_mnuEditPaste_Profile, [](frmMain& w, HWND) { w.RunProfileCommand(ProfileCommand::Paste); },
          "frmMain.mnuEditPaste_Profile_Click"},
         {IDM_mnuEditCopy_CmdLine, [](frmMain& w, HWND) { w.mnuEditCopy_CmdLine_Click(); },
          "frmMain.mnuEditCopy_CmdLine_Click"},
@@ -181,31 +175,12 @@ void frmMain::mnuProfile_Rename_Click() {
         FillProfileList();
 }
 
-void frmMain::mnuProfile_Duplicate_Click() {
-    RefreshProfileData();
-    ShowMadeProfile(mManageProfiles::DuplicateProfile(*App().ActiveProfile()));
-}
-
-// Deleting the active profile shows the standard profile, which took its place.
-void frmMain::mnuProfile_Delete_Click() {
-    RefreshProfileData();
-    if (mManageProfiles::DeleteProfile(*App().ActiveProfile()))
-        LoadData(*App().ActiveProfile());
-}
-
-void frmMain::mnuFile_ImportProfile_Click() {
-    RefreshProfileData();
-    ShowMadeProfile(mManageProfiles::ImportProfile(Owner(Handle())));
-}
-
-void frmMain::mnuEditPaste_Profile_Click() {
-    RefreshProfileData();
-    ShowMadeProfile(mManageProfiles::PasteProfile());
-}
-
-void frmMain::ShowMadeProfile(Profile* profile) {
-    if (profile != nullptr)
-        LoadData(*profile);
+// The others show the profile they made, or the one in the place of a deleted one.
+void frmMain::RunProfileCommand(frmMainCommands::ProfileCommand command) {
+    Profile* shown = frmMainCommands::RunProfileCommand(
+        command, [this] { RefreshProfileData(); }, Owner(Handle()));
+    if (shown != nullptr)
+        LoadData(*shown);
 }
 
 void frmMain::mnuEditCopy_CmdLine_Click() {
