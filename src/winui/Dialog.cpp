@@ -45,7 +45,8 @@ INT_PTR CALLBACK Dialog::Proc(HWND window, UINT message, WPARAM wParam, LPARAM l
         SetWindowLongPtrA(window, DWLP_USER, lParam);
         self->m_window = window;
         mError::AsEntryPoint(std::string(self->m_name) + ".Form_Load", [self] { self->OnInit(); });
-        return TRUE;
+        // A window that put the focus somewhere keeps it there; others start on their first control.
+        return IsChild(window, GetFocus()) ? FALSE : TRUE;
     }
     auto* self = reinterpret_cast<Dialog*>(GetWindowLongPtrA(window, DWLP_USER));
     if (self == nullptr)
