@@ -46,9 +46,10 @@ PAVONEL_HEADLESS_PACKAGES=(xvfb x11vnc)
 # installed program reads).
 PAVONEL_TEST_PACKAGES=(clang libclang-rt-dev clang-format desktop-file-utils libglib2.0-bin appstream dpkg-dev
     lintian strace)
-# The Windows build: the compiler, GoogleTest's sources to build for Windows, Wine to run the tests, and
-# icotool, which packs the program's icon (drawn from the Linux icon by rsvg-convert) for Windows.
-PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64 icoutils)
+# The Windows build: the compiler, GoogleTest's sources to build for Windows, Wine to run the tests,
+# icotool, which packs the program's icon (drawn from the Linux icon by rsvg-convert) for Windows, and NSIS,
+# which makes the installer.
+PAVONEL_WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine64 icoutils nsis)
 
 # The settings file of the demo: its standard profile plays the game at $2 with the graphic pak pak128.pak.
 pavonel_demo_settings() {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/mString.h"
+#include "platform/SettingsFolder.h"
 #include "platform/WindowsCommandLine.h"
 #include "platform/posix/ProcessLauncher.h"
 #include "platform/posix/RunningMarker.h"
@@ -118,16 +119,12 @@ std::string PosixPlatform::ProgramDirectory() {
 // it; another one does while its folder may be written. Permission bits count for the superuser too.
 std::string PosixPlatform::SettingsDirectory() {
     const std::string program = ProgramDirectory();
-    const std::string config = platform::XdgConfigHome();
-    if (config.empty())
-        return program;
-    if (DataDirectory() != program)  // installed
-        return config + "/Pavonel";
-    struct stat info {};
-    const bool writable = stat(program.c_str(), &info) == 0 &&
-                          (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0 &&
-                          access(program.c_str(), W_OK) == 0;
-    return writable ? program : config + "/Pavonel";
+    return platform::ChooseSettingsFolder(
+        program, platform::XdgConfigHome(), DataDirectory() != program, [&] {
+            struct stat info {};
+            return stat(program.c_str(), &info) == 0 && (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0 &&
+                   access(program.c_str(), W_OK) == 0;
+        });
 }
 
 std::string PosixPlatform::DataDirectory() {

@@ -5,9 +5,11 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
+#include <string>
 #include <vector>
 
 #include "platform/NativePath.h"
+#include "platform/SettingsFolder.h"
 
 namespace {
 
@@ -24,7 +26,27 @@ const char* OrNull(const std::string& text) {
     return text.empty() ? nullptr : text.c_str();
 }
 
+// Whether a file may be made in `folder`: the only answer that counts the folder's access rules, the
+// user's rights and a read-only medium alike is a file made there, which goes again when it is closed.
+bool FolderAcceptsFiles(const std::string& folder) {
+    const std::string probe = folder + "\\~pavonel-" + std::to_string(GetCurrentProcessId()) + ".tmp";
+    const HANDLE file = CreateFileA(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    CloseHandle(file);
+    return true;
+}
+
 }  // namespace
+
+std::string Win32Platform::SettingsDirectory() {
+    const std::string program = ProgramDirectory();
+    const std::string uninstaller = program + "\\" + platform::kUninstallerName;
+    const bool installed = GetFileAttributesA(uninstaller.c_str()) != INVALID_FILE_ATTRIBUTES;
+    return platform::ChooseSettingsFolder(program, SpecialFolder(kCsidlAppData), installed,
+                                          [&] { return FolderAcceptsFiles(program); });
+}
 
 std::string Win32Platform::ProgramDirectory() {
     std::vector<char> buffer(MAX_PATH);

@@ -4,11 +4,23 @@
 
 #include "platform/Platform.h"
 
+namespace platform {
+
+// The uninstaller that the installer writes into the program's folder (cmake/WindowsPackaging.cmake).
+inline constexpr char kUninstallerName[] = "Uninstall.exe";
+
+}  // namespace platform
+
 class Win32Platform : public Platform {
 public:
     // The folder of the running executable (GetModuleFileNameA), without its trailing backslash unless it
     // is a drive's root.
     std::string ProgramDirectory() override;
+
+    // The program's folder for a portable copy (a folder it may write), else the user's application data
+    // folder's Pavonel, whether or not that exists yet. A program that the installer put in place is
+    // installed: its uninstaller (kUninstallerName) lies beside it. Its texts stay in the program's folder.
+    std::string SettingsDirectory() override;
 
     // ShellExecuteA with `owner` as the owner window; its result as a number.
     int32_t ShellExec(int64_t owner, const std::string& verb, const std::string& file,

@@ -113,6 +113,22 @@ TEST(Win32PlatformTest, FileAttributesAreTheWindowsOnes) {
     SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
+// A copy unpacked anywhere keeps its settings beside itself; the installer's uninstaller beside the program
+// marks an installed one, whose settings go to the user's application data.
+TEST(Win32PlatformTest, AnInstalledProgramKeepsItsSettingsInTheUsersApplicationData) {
+    struct At : Win32Platform {
+        std::string folder;
+        std::string ProgramDirectory() override { return folder; }
+    } copy;
+    const TempDir dir;
+    copy.folder = platform::TextOf(dir.Path());
+    EXPECT_EQ(copy.SettingsDirectory(), copy.folder);
+    EXPECT_TRUE(fs::is_empty(dir.Path()));
+    dir.Write(platform::kUninstallerName, "");
+    EXPECT_EQ(copy.SettingsDirectory(), Environment("APPDATA") + "\\Pavonel");
+    EXPECT_EQ(copy.DataDirectory(), copy.folder);
+}
+
 TEST(Win32PlatformTest, ProgramAndWindowsDirectoriesAreWhereWindowsSays) {
     Win32Platform platform;
     const std::string program = platform.ProgramDirectory();
