@@ -5,11 +5,17 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
 // The control `id` anywhere inside `root`, its pages included; nullptr when there is none.
 HWND FindControl(HWND root, int id);
+
+// `window` as the core's calls take an owner window.
+inline int64_t OwnerOf(HWND window) {
+    return static_cast<int64_t>(reinterpret_cast<intptr_t>(window));
+}
 
 class Dialog {
 public:

@@ -4,6 +4,7 @@
 #include <windowsx.h>
 
 #include "WindowFixture.h"
+#include "winui/controls/ucTab.h"
 #include "winui/dialogs/frmInfo.h"
 
 namespace {
@@ -62,6 +63,12 @@ TEST_F(SmallWindowsTest, TheAboutBoxShowsOnePageAtATimeAndItsLinksOpen) {
         EXPECT_EQ(about->ActivePage(), 2);
         EXPECT_FALSE(visible(IDC_lblDescription));
         EXPECT_TRUE(visible(IDC_lblEmailLink));
+        // A painted link leaves the tab area's fill to the rest of the program.
+        HDC memory = CreateCompatibleDC(nullptr);
+        SendMessageA(FindControl(about->Handle(), IDC_lblWebpageLink), WM_PRINTCLIENT,
+                     reinterpret_cast<WPARAM>(memory), PRF_CLIENT);
+        DeleteDC(memory);
+        EXPECT_EQ(GetObjectType(ucTab::FillBrush()), static_cast<DWORD>(OBJ_BRUSH));
         for (int link : {IDC_lblWebpageLink, IDC_lblEmailLink}) {
             NMHDR click{FindControl(about->Handle(), link), static_cast<UINT_PTR>(link), NM_CLICK};
             SendMessageA(about->Handle(), WM_NOTIFY, static_cast<WPARAM>(link),

@@ -71,9 +71,18 @@ void DrawArea(const DRAWITEMSTRUCT& item, int left, int right) {
     FillRect(item.hDC, &gap, FillBrush());
 }
 
-std::optional<INT_PTR> PageColours(UINT message, WPARAM wParam) {
+std::optional<INT_PTR> PageColours(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_CTLCOLORDLG && message != WM_CTLCOLORSTATIC && message != WM_CTLCOLORBTN)
         return std::nullopt;
+    // A link draws on the fill and gets a stock brush, which nobody can delete: Wine's link control deletes
+    // the brush it is handed, which would take the fill from every page of the program.
+    char kind[16] = {};
+    if (message == WM_CTLCOLORSTATIC &&
+        GetClassNameA(reinterpret_cast<HWND>(lParam), kind, sizeof kind) > 0 &&
+        lstrcmpiA(kind, "SysLink") == 0) {
+        SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
+        return reinterpret_cast<INT_PTR>(GetStockObject(NULL_BRUSH));
+    }
     SetBkColor(reinterpret_cast<HDC>(wParam), kFill);
     SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNTEXT));
     return reinterpret_cast<INT_PTR>(FillBrush());

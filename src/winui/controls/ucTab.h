@@ -32,7 +32,7 @@ void DrawArea(const DRAWITEMSTRUCT& item, int left, int right);
 
 // A page on the tab area shows the area's fill behind its texts: the answer to its WM_CTLCOLORDLG,
 // WM_CTLCOLORSTATIC and WM_CTLCOLORBTN, and nothing for any other message.
-std::optional<INT_PTR> PageColours(UINT message, WPARAM wParam);
+std::optional<INT_PTR> PageColours(UINT message, WPARAM wParam, LPARAM lParam);
 
 // A rectangle of `control` in the coordinates of its parent.
 RECT PlaceInParent(HWND control);

@@ -101,7 +101,7 @@ void frmError::ShowPage(Page page) {
 void frmError::OnCommand(int id, int code) {
     if (code != BN_CLICKED)
         return;
-    const auto owner = static_cast<int64_t>(reinterpret_cast<intptr_t>(Handle()));
+    const int64_t owner = OwnerOf(Handle());
     switch (id) {
         case IDC_cmdContact:
             mError::AsEntryPoint("frmError.cmdContact_Click", [this] { ShowPage(kContactPage); });

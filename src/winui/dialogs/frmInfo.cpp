@@ -19,10 +19,6 @@ std::string Link(const std::string& shown) {
     return "<a>" + shown + "</a>";
 }
 
-int64_t Owner(HWND window) {
-    return static_cast<int64_t>(reinterpret_cast<intptr_t>(window));
-}
-
 // A page shows the area's fill and hands its links' notices to the about box.
 INT_PTR CALLBACK PageProc(HWND page, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG)
@@ -31,16 +27,7 @@ INT_PTR CALLBACK PageProc(HWND page, UINT message, WPARAM wParam, LPARAM lParam)
         SendMessageA(GetParent(page), message, wParam, lParam);
         return TRUE;
     }
-    // A link is drawn on the page's fill, and it gets a stock brush, which nobody can delete: Wine's link
-    // control deletes the brush it is handed, which would take the fill from every page of the program.
-    char kind[16] = {};
-    if (message == WM_CTLCOLORSTATIC &&
-        GetClassNameA(reinterpret_cast<HWND>(lParam), kind, sizeof kind) > 0 &&
-        lstrcmpiA(kind, "SysLink") == 0) {
-        SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-        return reinterpret_cast<INT_PTR>(GetStockObject(NULL_BRUSH));
-    }
-    return ucTab::PageColours(message, wParam).value_or(FALSE);
+    return ucTab::PageColours(message, wParam, lParam).value_or(FALSE);
 }
 
 }  // namespace
@@ -125,10 +112,10 @@ std::optional<INT_PTR> frmInfo::OnMessage(UINT message, WPARAM, LPARAM lParam) {
     if (message == WM_NOTIFY && (notice->code == NM_CLICK || notice->code == NM_RETURN)) {
         if (notice->idFrom == IDC_lblWebpageLink)
             mError::AsEntryPoint("frmInfo.lblWebpageLink_Click",
-                                 [this] { App().ShowPavonelWebpage(Owner(Handle())); });
+                                 [this] { App().ShowPavonelWebpage(OwnerOf(Handle())); });
         else if (notice->idFrom == IDC_lblEmailLink)
             mError::AsEntryPoint("frmInfo.lblEmailLink_Click",
-                                 [this] { App().ContactAuthor(Owner(Handle())); });
+                                 [this] { App().ContactAuthor(OwnerOf(Handle())); });
     }
     return std::nullopt;
 }

@@ -61,14 +61,14 @@ void frmOptions::SaveSettings() try {
 }
 
 void frmOptions::OnCommand(int id, int code) {
-    if (code != BN_CLICKED || (id != IDC_cmdOk && id != IDC_cmdEditorPath))
-        return ModalDialog::OnCommand(id, code);
-    if (id == IDC_cmdEditorPath) {
+    if (id == IDC_cmdEditorPath && code == BN_CLICKED) {
         mError::AsEntryPoint("frmOptions.cmdEditorPath_Click", [this] { cmdEditorPath_Click(); });
-        return;
+    } else if (id == IDC_cmdOk && code == BN_CLICKED) {
+        mError::AsEntryPoint("frmOptions.cmdOk_Click", [this] {
+            SaveSettings();
+            Confirm();
+        });
+    } else {
+        ModalDialog::OnCommand(id, code);
     }
-    mError::AsEntryPoint("frmOptions.cmdOk_Click", [this] {
-        SaveSettings();
-        Confirm();
-    });
 }

@@ -27,8 +27,8 @@ void MainPage::OnCommand(int id, int code) {
         Pressed(id);
 }
 
-std::optional<INT_PTR> MainPage::OnMessage(UINT message, WPARAM wParam, LPARAM) {
-    return ucTab::PageColours(message, wParam);
+std::optional<INT_PTR> MainPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return ucTab::PageColours(message, wParam, lParam);
 }
 
 void MainPage::SetCaption(int id, Mnemonics& keys, const std::string& text) {

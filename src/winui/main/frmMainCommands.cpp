@@ -20,10 +20,6 @@
 
 namespace {
 
-int64_t Owner(HWND window) {
-    return static_cast<int64_t>(reinterpret_cast<intptr_t>(window));
-}
-
 using frmMainCommands::ProfileCommand;
 
 struct Command {
@@ -54,18 +50,18 @@ void frmMain::OnCommand(int id, int code) {
 void frmMain::RunCommand(int id) {
     static const Command kCommands[] = {
         {IDC_cmdStart, [](frmMain& w, HWND) { w.cmdStart_Click(); }, "frmMain.cmdStart_Click"},
-        {IDC_cmdLogfile, [](frmMain&, HWND h) { frmMainCommands::OpenLogFile(Owner(h)); },
+        {IDC_cmdLogfile, [](frmMain&, HWND h) { frmMainCommands::OpenLogFile(OwnerOf(h)); },
          "frmMain.cmdLogfile_Click"},
-        {IDC_cmdLogfile2, [](frmMain&, HWND h) { frmMainCommands::OpenLogFile(Owner(h)); },
+        {IDC_cmdLogfile2, [](frmMain&, HWND h) { frmMainCommands::OpenLogFile(OwnerOf(h)); },
          "frmMain.cmdLogfile2_Click"},
-        {IDC_cmdOpenTarvoDir, [](frmMain&, HWND h) { frmMainCommands::OpenGameFolder(Owner(h)); },
+        {IDC_cmdOpenTarvoDir, [](frmMain&, HWND h) { frmMainCommands::OpenGameFolder(OwnerOf(h)); },
          "frmMain.cmdOpenTarvoDir_Click"},
         {IDC_cmdSelectTarvoPath, [](frmMain& w, HWND) { w.cmdSelectTarvoPath_Click(); },
          "frmMain.cmdSelectTarvoPath_Click"},
         {IDM_mnuFile_Save, [](frmMain& w, HWND) { w.SaveData(); }, "frmMain.mnuFile_Save_Click"},
         {IDM_mnuFile_Quit, [](frmMain&, HWND h) { PostMessageA(h, WM_CLOSE, 0, 0); },
          "frmMain.mnuFile_Quit_Click"},
-        {IDM_mnuFile_SendFeedback, [](frmMain&, HWND h) { App().ContactAuthor(Owner(h)); },
+        {IDM_mnuFile_SendFeedback, [](frmMain&, HWND h) { App().ContactAuthor(OwnerOf(h)); },
          "frmMain.mnuFile_SendFeedback_Click"},
         {IDM_mnuProfile_New, [](frmMain& w, HWND) { w.mnuProfile_New_Click(); },
          "frmMain.mnuProfile_New_Click"},
@@ -105,15 +101,15 @@ void frmMain::RunCommand(int id) {
          "frmMain.mnuHelp_About_Click"},
         {IDM_mnuExtra_Accessories_LanguageEditor,
          [](frmMain&, HWND h) {
-             Os().ShellExec(Owner(h), "open", "LanguageEditor.exe", "", App().GetToolsDirectory(),
+             Os().ShellExec(OwnerOf(h), "open", "LanguageEditor.exe", "", App().GetToolsDirectory(),
                             kSwShowNormal);
          },
          "frmMain.mnuExtra_Accessories_LanguageEditor_Click"},
-        {IDM_mnuHelp_FAQ, [](frmMain&, HWND h) { App().ShowFAQ(Owner(h), App().Options().Language()); },
+        {IDM_mnuHelp_FAQ, [](frmMain&, HWND h) { App().ShowFAQ(OwnerOf(h), App().Options().Language()); },
          "frmMain.mnuHelp_FAQ_Click"},
-        {IDM_mnuHelp_FAQ_EN, [](frmMain&, HWND h) { App().ShowFAQ(Owner(h), "EN"); },
+        {IDM_mnuHelp_FAQ_EN, [](frmMain&, HWND h) { App().ShowFAQ(OwnerOf(h), "EN"); },
          "frmMain.mnuHelp_FAQ_EN_Click"},
-        {IDM_mnuHelp_Webpage, [](frmMain&, HWND h) { App().ShowPavonelWebpage(Owner(h)); },
+        {IDM_mnuHelp_Webpage, [](frmMain&, HWND h) { App().ShowPavonelWebpage(OwnerOf(h)); },
          "frmMain.mnuHelp_Webpage_Click"},
     };
     for (const Command& command : kCommands) {
@@ -126,7 +122,7 @@ void frmMain::RunCommand(int id) {
 
 void frmMain::cmdStart_Click() {
     RefreshProfileData();
-    App().ActiveProfile()->StartTarvolin(Owner(Handle()));
+    App().ActiveProfile()->StartTarvolin(OwnerOf(Handle()));
 }
 
 // A new game path refills the lists from its folder.
@@ -178,7 +174,7 @@ void frmMain::mnuProfile_Rename_Click() {
 // The others show the profile they made, or the one in the place of a deleted one.
 void frmMain::RunProfileCommand(frmMainCommands::ProfileCommand command) {
     Profile* shown = frmMainCommands::RunProfileCommand(
-        command, [this] { RefreshProfileData(); }, Owner(Handle()));
+        command, [this] { RefreshProfileData(); }, OwnerOf(Handle()));
     if (shown != nullptr)
         LoadData(*shown);
 }
