@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "base/mString.h"
+#include "update/DownloadRules.h"
 
 namespace update {
 namespace {
@@ -44,7 +45,7 @@ HttpReply::State HttpReply::Fail(std::string error) {
 }
 
 HttpReply::State HttpReply::TooLong() {
-    return Fail("the reply is longer than " + std::to_string(m_maxBody / 1024) + " KiB");
+    return Fail(LengthRefusal(m_maxBody));
 }
 
 HttpReply::State HttpReply::Feed(std::string_view bytes) {
@@ -60,7 +61,7 @@ HttpReply::State HttpReply::End() {
         return m_state;
     }
     if (m_state == State::Head || m_state == State::Body)
-        return Fail("the connection was closed before the reply was complete");
+        return Fail(kCutShort);
     return m_state;
 }
 

@@ -22,6 +22,10 @@ bool IsHttps(const QUrl& url) {
     return url.scheme() == QLatin1String("https");
 }
 
+update::Site SiteOf(const QUrl& url) {
+    return {QtText::FromQt(url.scheme()), QtText::FromQt(url.host()), url.port(0)};
+}
+
 // The request for a file that must come from the server itself, never from a cache on the way. The
 // connection ends with the reply, so a reply without a length ends where the server closes it.
 QByteArray RequestFor(const QUrl& address) {
@@ -39,9 +43,8 @@ Download::Download(const std::string& address, int32_t /*accessType*/, Limits li
     : QObject(parent), m_limits(limits), m_address(QtText::ToQt(address), QUrl::StrictMode) {
     QNetworkProxyFactory::setUseSystemConfiguration(true);
     m_deadline.setSingleShot(true);
-    connect(&m_deadline, &QTimer::timeout, this, [this] {
-        Fail(QStringLiteral("no complete answer within %1 s").arg(m_limits.timeout.count() / 1000.0));
-    });
+    connect(&m_deadline, &QTimer::timeout, this,
+            [this] { Fail(QtText::ToQt(update::TimeoutRefusal(m_limits))); });
     if (!IsWeb(m_address)) {
         // Told on the next turn of the event loop, as every other outcome is.
         QTimer::singleShot(0, this, [this] {
@@ -115,15 +118,10 @@ void Download::Fail(const QString& detail) {
 // A redirect stays on the address's own host, scheme and port, and only so many of them are followed: a
 // reply fetched over https never continues over plain http.
 void Download::Redirected(const QUrl& target) {
-    const bool sameSite = IsWeb(target) && target.scheme() == m_address.scheme() &&
-                          target.host().compare(m_address.host(), Qt::CaseInsensitive) == 0 &&
-                          target.port(-1) == m_address.port(-1);
-    if (!sameSite) {
-        Fail(QStringLiteral("sent on to %1").arg(target.toDisplayString()));
-        return;
-    }
-    if (++m_redirects > m_limits.maxRedirects) {
-        Fail(QStringLiteral("more than %1 redirects").arg(m_limits.maxRedirects));
+    const std::string refusal = update::RedirectRefusal(
+        SiteOf(m_address), SiteOf(target), QtText::FromQt(target.toDisplayString()), ++m_redirects, m_limits);
+    if (!refusal.empty()) {
+        Fail(QtText::ToQt(refusal));
         return;
     }
     Close();
@@ -169,7 +167,7 @@ void Download::Done() {
     }
     // A server's answer other than 200 is named by its status.
     if (status != kStatusOk) {
-        Fail(QStringLiteral("HTTP status %1").arg(status));
+        Fail(QtText::ToQt(update::StatusRefusal(status)));
         return;
     }
     const QByteArray body = QByteArray::fromStdString(m_reply->Body());

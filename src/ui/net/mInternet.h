@@ -20,21 +20,15 @@
 #include <optional>
 #include <string>
 
+#include "update/DownloadRules.h"
 #include "update/HttpReply.h"
 
 namespace mInternet {
 
-inline constexpr const char* kAgent = "Pavonel Internet Update";
-// The failures' descriptions: no download could be started for the address at all, and everything that
-// went wrong once it had started.
-inline constexpr const char* kNoInternet = "No internet";
-inline constexpr const char* kNotFound = "No internet connection or website not found";
-
-struct Limits {
-    std::chrono::milliseconds timeout{10000};
-    qint64 maxBytes = 64 * 1024;
-    int maxRedirects = 5;
-};
+using update::kAgent;
+using update::kNoInternet;
+using update::kNotFound;
+using update::Limits;
 
 class Download : public QObject {
     Q_OBJECT
