@@ -6,7 +6,7 @@
 
 #include "Scenes.h"
 #include "ScreenshotSession.h"
-#include "TestHttpServer.h"
+#include "support/TestHttpServer.h"
 #include "ui/dialogs/frmUpdate.h"
 #include "update/UpdateFile.h"
 
@@ -25,8 +25,8 @@ void RunUntilChecked(const frmUpdate& dialog) {
 void RenderUpdate(ScreenshotSession& session) {
     qputenv("no_proxy", "127.0.0.1,localhost");
     TestHttpServer server;
-    update::InstallSite(update::Site{"http", "127.0.0.1", server.Url(QStringLiteral("/")).port()});
-    const QByteArray file = ("/down/pavonel/updates/" + update::FileName()).c_str();
+    update::InstallSite(update::Site{"http", "127.0.0.1", server.Port()});
+    const std::string file = "/down/pavonel/updates/" + update::FileName();
     const std::pair<const char*, TestHttpServer::Route> states[] = {
         {"Found",
          TestHttpServer::Ok("true\n/download/pavonel-0.2.0.html\nVersion 0.2.0 starts twice as fast.\n"

@@ -8,8 +8,8 @@
 #include <QProgressBar>
 
 #include "error/mError.h"
+#include "support/TestHttpServer.h"
 #include "ui/dialogs/UiFixture.h"
-#include "ui/net/TestHttpServer.h"
 #include "update/UpdateFile.h"
 
 namespace {
@@ -18,7 +18,7 @@ class frmUpdateTest : public AppFixture {
 protected:
     frmUpdateTest() {
         qputenv("no_proxy", "127.0.0.1,localhost");
-        update::InstallSite(update::Site{"http", "127.0.0.1", server.Url("/").port()});
+        update::InstallSite(update::Site{"http", "127.0.0.1", server.Port()});
         dialog.InitDialog();
         dialog.show();
     }
@@ -26,7 +26,7 @@ protected:
 
     // Serves `reply` as the update file and checks; true once the check has ended.
     bool Check(const TestHttpServer::Route& reply) {
-        server.Serve(("/down/pavonel/updates/" + update::FileName()).c_str(), reply);
+        server.Serve("/down/pavonel/updates/" + update::FileName(), reply);
         Click("cmdSearchUpdates");
         return QTest::qWaitFor([this] { return !dialog.Searching(); }, 15000);
     }
@@ -50,7 +50,7 @@ TEST_F(frmUpdateTest, AnUpdateShowsItsNewsAndOpensItsPage) {
     ASSERT_TRUE(Find(dialog, "cmdOpenUpdatePage")->isEnabled());
     Click("cmdOpenUpdatePage");
     ASSERT_EQ(platform.calls.size(), 1u);
-    EXPECT_EQ(platform.calls[0].file, server.Url("/download/2.0").toString().toStdString());
+    EXPECT_EQ(platform.calls[0].file, server.Url("/download/2.0"));
     EXPECT_EQ(server.Requests().back().agent, "Pavonel Internet Update");
     EXPECT_TRUE(ui.reports.empty());
 }
@@ -58,7 +58,7 @@ TEST_F(frmUpdateTest, AnUpdateShowsItsNewsAndOpensItsPage) {
 // A page that could lead anywhere else is reported and never opened; the news still show.
 TEST_F(frmUpdateTest, APageOffTheSiteOpensNothing) {
     for (const char* page : {"@other.host/x", "//other.host/x", "http://other/", "/a\\b", "/a\x01", "/a b"}) {
-        ASSERT_TRUE(Check(TestHttpServer::Ok(QByteArray("true\n") + page + "\nnews")));
+        ASSERT_TRUE(Check(TestHttpServer::Ok(std::string("true\n") + page + "\nnews")));
         EXPECT_FALSE(Find(dialog, "cmdOpenUpdatePage")->isEnabled()) << page;
         Click("cmdOpenUpdatePage");
         ASSERT_FALSE(ui.reports.empty());
@@ -81,7 +81,7 @@ TEST_F(frmUpdateTest, AFailureIsReportedAndTheWindowStays) {
 
 // While a check runs the busy bar shows and the button cancels it; closing the window ends it too.
 TEST_F(frmUpdateTest, ARunningCheckCanBeCancelled) {
-    server.Serve(("/down/pavonel/updates/" + update::FileName()).c_str(),
+    server.Serve("/down/pavonel/updates/" + update::FileName(),
                  TestHttpServer::Behaving(TestHttpServer::Kind::Silent));
     Click("cmdSearchUpdates");
     EXPECT_TRUE(dialog.Searching());

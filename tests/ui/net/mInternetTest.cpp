@@ -8,7 +8,7 @@
 #include <QTest>
 #include <algorithm>
 
-#include "TestHttpServer.h"
+#include "support/TestHttpServer.h"
 
 namespace {
 
@@ -18,9 +18,9 @@ using Server = TestHttpServer;
 
 constexpr mInternet::Limits kLimits{1s, 64 * 1024, 5};
 constexpr std::chrono::milliseconds kMargin = 1s;
-const QByteArray kUpdate = "true\n/page\nnews 1\nnews 2\n";
-const QByteArray kBinary("\0\x01\xff\xfe garbage\0\0\x7f\r\n\x80", 18);
-const QByteArray kFull(kLimits.maxBytes, 'a');
+const std::string kUpdate = "true\n/page\nnews 1\nnews 2\n";
+const std::string kBinary("\0\x01\xff\xfe garbage\0\0\x7f\r\n\x80", 18);
+const std::string kFull(kLimits.maxBytes, 'a');
 
 class mInternetTest : public ::testing::Test {
 protected:
@@ -30,13 +30,13 @@ protected:
         server.Serve("/update", Server::Ok(kUpdate));
         // From a redirect to "/hop1" on, "/update" is as many redirects away as are allowed.
         for (int hop = 1; hop < kLimits.maxRedirects; ++hop) {
-            const QByteArray next =
-                hop + 1 < kLimits.maxRedirects ? "/hop" + QByteArray::number(hop + 1) : "/update";
-            server.Serve("/hop" + QByteArray::number(hop), Server::Redirect(next));
+            const std::string next =
+                hop + 1 < kLimits.maxRedirects ? "/hop" + std::to_string(hop + 1) : "/update";
+            server.Serve("/hop" + std::to_string(hop), Server::Redirect(next));
         }
     }
 
-    std::string Address(const QString& path) const { return server.Url(path).toString().toStdString(); }
+    std::string Address(const std::string& path) const { return server.Url(path); }
 
     Server server;
 };
@@ -44,7 +44,7 @@ protected:
 struct Case {
     const char* name;
     Server::Route route;  // served at "/"
-    QByteArray body{};
+    std::string body{};
     const char* failure = "";  // empty when the download finishes
     std::string address{};     // when not the server's "/"
 };
@@ -58,21 +58,22 @@ class mInternetDownload : public mInternetTest, public ::testing::WithParamInter
 TEST_P(mInternetDownload, EndsOnceInTimeOnlyAskingItsOwnHost) {
     server.Serve("/", GetParam().route);
     int told = 0;
-    QByteArray body;
+    std::string body;
     QString failure;
     QElapsedTimer clock;
     clock.start();
     Download download(GetParam().address.empty() ? Address("/") : GetParam().address, 0, kLimits);
-    QObject::connect(&download, &Download::Finished, [&](const QByteArray& got) { body = got, ++told; });
+    QObject::connect(&download, &Download::Finished,
+                     [&](const QByteArray& got) { body = got.toStdString(), ++told; });
     QObject::connect(&download, &Download::Failed, [&](const QString& got) { failure = got, ++told; });
     EXPECT_TRUE(QTest::qWaitFor([&] { return told > 0; }, (kLimits.timeout + 2 * kMargin).count()));
     EXPECT_LE(clock.elapsed(), (kLimits.timeout + kMargin).count());
     EXPECT_EQ(told, 1);
     EXPECT_EQ(body, GetParam().body);
     EXPECT_EQ(failure, GetParam().failure);
-    EXPECT_LE(server.Requests().size(), kLimits.maxRedirects + 1);
+    EXPECT_LE(server.Requests().size(), static_cast<std::size_t>(kLimits.maxRedirects) + 1);
     for (const Server::Request& request : server.Requests()) {
-        EXPECT_EQ(request.host, server.Host()) << request.path.constData();
+        EXPECT_EQ(request.host, server.Host()) << request.path;
         EXPECT_EQ(request.agent, mInternet::kAgent);
     }
 }
@@ -98,6 +99,10 @@ INSTANTIATE_TEST_SUITE_P(
         // Faster than the timeout, so only the limit on the whole download can end it.
         Case{"Trickling", {.kind = Server::Kind::Trickle, .interval = 100ms}, {}, kNotFound},
         Case{"CutShort", Server::Behaving(Server::Kind::CutShort), {}, kNotFound},
+        Case{"ClosedBeforeItsLength",
+             {.body = "short", .headers = {{"Content-Length", "100"}}, .announceLength = false},
+             {},
+             kNotFound},
         Case{"RedirectLoop", Server::Redirect("/"), {}, kNotFound},
         Case{"RedirectElsewhere", Server::Redirect("http://other.invalid/x"), {}, kNotFound},
         Case{"RedirectToLocalhost", Server::Redirect("http://localhost:{port}/x"), {}, kNotFound},
