@@ -24,6 +24,7 @@
 #define IDD_InfoPage_0 118
 #define IDD_InfoPage_1 119
 #define IDD_InfoPage_2 120
+#define IDD_frmUpdate 121
 
 // frmMain.
 #define IDC_ucTab1_0 1000
@@ -90,6 +91,7 @@
 #define IDM_mnuProfile_Delete 2017
 #define IDM_mnuEditCopy_Profile 2018
 #define IDM_mnuEditPaste_Profile 2019
+#define IDM_mnuExtra_Update 2020
 #define IDM_mnuOptions_Lang_Item_0 2100
 #define IDM_mnuProfile_List_0 3000
 #define IDM_mnuProfile_List_Last 9999
@@ -135,3 +137,8 @@
 #define IDC_lblWebpageLink 1269
 #define IDC_lblEmail 1270
 #define IDC_lblEmailLink 1271
+#define IDC_lblUpdateInfo 1280
+#define IDC_lblStatus 1281
+#define IDC_prgSearching 1282
+#define IDC_cmdSearchUpdates 1283
+#define IDC_cmdOpenUpdatePage 1284

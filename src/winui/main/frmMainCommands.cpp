@@ -15,6 +15,7 @@
 #include "winui/dialogs/frmInfo.h"
 #include "winui/dialogs/frmOptions.h"
 #include "winui/dialogs/frmProfiles.h"
+#include "winui/dialogs/frmUpdate.h"
 #include "winui/main/Pages.h"
 #include "winui/main/frmMain.h"
 
@@ -92,6 +93,13 @@ void frmMain::RunCommand(int id) {
              dialog.ShowModal(w.Handle());
          },
          "frmMain.mnuExtra_Options_Click"},
+        {IDM_mnuExtra_Update,
+         [](frmMain& w, HWND) {
+             frmUpdate dialog;
+             dialog.InitDialog();
+             dialog.ShowModal(w.Handle());
+         },
+         "frmMain.mnuExtra_Update_Click"},
         {IDM_mnuHelp_About,
          [](frmMain& w, HWND) {
              frmInfo dialog;

@@ -130,12 +130,14 @@ void frmMain::HighligthSelectedLanguage() try {
     mError::PassOn("frmMain.HighligthSelectedLanguage");
 }
 
-// Everything below the language list: the options, and the accessories when the language editor is there.
+// Everything below the language list: the options, the update check, and the accessories when the language
+// editor is there.
 void frmMain::RefreshAccessoriesMenu() try {
     const int count = GetMenuItemCount(mnuExtra);
     for (int i = count - 1; i >= 1; --i)
         DeleteMenu(mnuExtra, static_cast<UINT>(i), MF_BYPOSITION);
     Add(mnuExtra, IDM_mnuExtra_Options, "MNU_EXTRA_OPTIONS");
+    Add(mnuExtra, IDM_mnuExtra_Update, "MNU_EXTRA_INTERNETUPDATE");
     if (!frmMainLists::HasLanguageEditor(App()))
         return;
     AppendMenuA(mnuExtra, MF_SEPARATOR, 0, nullptr);
