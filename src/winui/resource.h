@@ -25,6 +25,13 @@
 #define IDD_InfoPage_1 119
 #define IDD_InfoPage_2 120
 #define IDD_frmUpdate 121
+#define IDD_frmCreateTarvolinShortcut_New 130
+#define IDD_picStep_0 131
+#define IDD_picStep_1 132
+#define IDD_picStep_2 133
+#define IDD_picStep_3 134
+#define IDD_picStep_4 135
+#define IDD_picStep_5 136
 
 // frmMain.
 #define IDC_ucTab1_0 1000
@@ -92,6 +99,7 @@
 #define IDM_mnuEditCopy_Profile 2018
 #define IDM_mnuEditPaste_Profile 2019
 #define IDM_mnuExtra_Update 2020
+#define IDM_mnuExtra_CreateShortcut 2030
 #define IDM_mnuOptions_Lang_Item_0 2100
 #define IDM_mnuProfile_List_0 3000
 #define IDM_mnuProfile_List_Last 9999
@@ -142,3 +150,30 @@
 #define IDC_prgSearching 1282
 #define IDC_cmdSearchUpdates 1283
 #define IDC_cmdOpenUpdatePage 1284
+
+// The shortcut wizard: its title band, its button bar (Cancel is the shared one) and its six pages.
+#define IDC_lblStep 1300
+#define IDC_lblStepDesc 1301
+#define IDC_lblStepTask 1302
+#define IDC_TitleArea_Shape1 1303
+#define IDC_TitleArea_Line1 1304
+#define IDC_Nav_Line1 1310
+#define IDC_cmdNext 1311
+#define IDC_cmdBack 1312
+#define IDC_Nav_Line2 1313
+#define IDC_lblWizardInfo 1320
+#define IDC_lblShortcutTo 1321
+#define IDC_txtDest 1322
+#define IDC_cmdSelLinkDestFolder 1323
+#define IDC_opMode_0 1324
+#define IDC_lblSettingsInfo 1326
+#define IDC_txtSettings 1327
+#define IDC_opDest_0 1330
+#define IDC_lblShortcutFolder 1334
+#define IDC_txtDestFolder 1335
+#define IDC_cmdSelFolder 1336
+#define IDC_lblShortcutName 1337
+#define IDC_txtLinkName 1338
+#define IDC_lblShortcutNameExample 1339
+#define IDC_lblFinished 1340
+#define IDC_ckCreateFurtherShortcut 1341

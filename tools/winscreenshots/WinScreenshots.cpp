@@ -33,6 +33,7 @@ using std::min;
 #include "winui/dialogs/frmInfo.h"
 #include "winui/dialogs/frmProfiles.h"
 #include "winui/main/frmMain.h"
+#include "winui/shortcuts/frmCreateTarvolinShortcut_New.h"
 
 namespace {
 
@@ -133,6 +134,13 @@ void RenderLanguage(const std::string& folder, const std::string& language) {
             }
             about->Dismiss();
         }
+        if (auto* wizard = dynamic_cast<frmCreateTarvolinShortcut_New*>(&dialog)) {
+            for (int16_t page = 1; page <= ShortcutWizard::kPages; ++page) {
+                wizard->ShowPage(page);
+                Grab(wizard->Handle(), "frmCreateTarvolinShortcut_New_" + std::to_string(page));
+            }
+            wizard->Dismiss();
+        }
         for (const auto& [layout, name] : windows)
             if (dialog.Layout() == layout)
                 GrabModal(dialog, name);
@@ -150,6 +158,7 @@ void RenderLanguage(const std::string& folder, const std::string& language) {
     profiles.ShowModal(main->Handle());
     SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuExtra_Options, 0);
     SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuHelp_About, 0);
+    SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuExtra_CreateShortcut, 0);
     active.SetFreeplay(!active.Freeplay());
     Ui().ShowSaveDialog();
     // A width that is no number: the report of the failed save.

@@ -169,7 +169,7 @@ void frmCreateTarvolinShortcut_New::ConnectControls() {
     ConnectEntryPoint(cmdSelLinkDestFolder, &QPushButton::clicked, this,
                       &frmCreateTarvolinShortcut_New::cmdSelLinkDestFolder_Click,
                       "frmCreateTarvolinShortcut_New.cmdSelLinkDestFolder_Click");
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < ShortcutWizard::kDestinations; ++i)
         connect(opDest[i], &QRadioButton::clicked, this, [this, i] { opDest_Click(i); });
     ConnectEntryPoint(cmdSelFolder, &QPushButton::clicked, this,
                       &frmCreateTarvolinShortcut_New::cmdSelFolder_Click,
@@ -201,10 +201,8 @@ void frmCreateTarvolinShortcut_New::TranslateDialog() try {
     opMode[0]->setText(keys.Add(ItemText("LBL_MODE_STANDARD")));
     opMode[1]->setText(keys.Add(ItemText("LBL_MODE_CURRENTPROFILE")));
     lblSettingsInfo->setText(keys.Add(ItemText("LBL_SETTINGS_INFO")));
-    const char* destinations[] = {"LBL_DEST_DESKTOP", "LBL_DEST_STARTMENU", "LBL_DEST_QUICK_LAUNCH",
-                                  "LBL_DEST_OTHER"};
-    for (int i = 0; i < 4; ++i)
-        opDest[i]->setText(keys.Add(ItemText(destinations[i])));
+    for (int i = 0; i < ShortcutWizard::kDestinations; ++i)
+        opDest[i]->setText(keys.Add(ItemText(ShortcutWizard::kDestinationKeys[i])));
     lblShortcutFolder->setText(keys.Add(ItemText("LBL_SHORTCUT_FOLDER")));
     cmdSelFolder->setText(keys.Add(GlobalText("BTN_Browse")));
     lblShortcutName->setText(keys.Add(ItemText("LBL_SHORTCUT_NAME")));

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 
+#include "shortcuts/ShortcutWizard.h"
 #include "ui/dialogs/ModalDialog.h"
 
 class Profile;
@@ -27,7 +28,7 @@ class frmCreateTarvolinShortcut_New : public ModalDialog {
     Q_OBJECT
 
 public:
-    static constexpr int kPages = 6;
+    static constexpr int kPages = ShortcutWizard::kPages;
 
     explicit frmCreateTarvolinShortcut_New(QWidget* parent = nullptr);
 
@@ -55,11 +56,9 @@ private:
     void ucWizard_Nav_LeavePage(int16_t pageNo, bool* cancel);
     void ucWizard_Nav_NextClicked(int16_t pageNo, bool* cancel);
     void ucWizard_Nav_CancelClicked();
-    bool Refuse(const std::string& section, const char* key, int style, const std::string& parameter = {});
-    void CreateShortcut();
+    ShortcutWizard::Fields Fields() const;
 
-    std::string m_cmdLine;
-    int32_t m_browseRoot = 0;
+    ShortcutWizard m_rules;
 
     ucWizard_TitleArea* titleArea;
     QStackedWidget* pages;
@@ -72,7 +71,7 @@ private:
     std::array<QRadioButton*, 2> opMode{};
     QLabel* lblSettingsInfo;
     QPlainTextEdit* txtSettings;
-    std::array<QRadioButton*, 4> opDest{};
+    std::array<QRadioButton*, ShortcutWizard::kDestinations> opDest{};
     QLabel* lblShortcutFolder;
     ucPath* txtDestFolder;
     QPushButton* cmdSelFolder;

@@ -4,9 +4,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/PublicObjects.h"
 #include "error/mError.h"
-#include "translate/cTranslate.h"
 #include "ui/EntryPoint.h"
 #include "ui/Named.h"
 #include "ui/QtText.h"
@@ -61,18 +59,11 @@ ucWizard_Nav::ucWizard_Nav(QWidget* parent) : QWidget(parent) {
                       "ucPath.cmdCancel_Click");
 }
 
-void ucWizard_Nav::SetPageCount(int16_t value) try {
-    m_pageCount = value;
-    RefreshNavButtons();
-} catch (...) {
+void ucWizard_Nav::SetPageCount(int16_t value) try { m_nav.SetPageCount(value); } catch (...) {
     mError::ShowError(Procedure("PageCount"));
 }
 
-void ucWizard_Nav::ShowPage(int16_t pageNo) try {
-    m_curPageNo = pageNo;
-    emit PageShowing(pageNo);
-    RefreshNavButtons();
-} catch (...) {
+void ucWizard_Nav::ShowPage(int16_t pageNo) try { m_nav.ShowPage(pageNo); } catch (...) {
     mError::ShowError(Procedure("ShowPage"));
 }
 
@@ -81,11 +72,11 @@ void ucWizard_Nav::InitControl() try { ShowPage(1); } catch (...) {
 }
 
 void ucWizard_Nav::Translate() try {
-    const cTranslate& texts = Translator();
+    const cWizardNav::Captions captions = cWizardNav::Translated();
     MnemonicSet keys;
-    cmdNext->setText(keys.Add(QtText::ToQt(texts.TranslateEx("GLOBAL", "BTN_NEXT") + " >")));
-    cmdBack->setText(keys.Add(QtText::ToQt("< " + texts.TranslateEx("GLOBAL", "BTN_BACK"))));
-    cmdCancel->setText(keys.Add(QtText::ToQt(texts.TranslateEx("GLOBAL", "BTN_CANCEL"))));
+    cmdNext->setText(keys.Add(QtText::ToQt(captions.next)));
+    cmdBack->setText(keys.Add(QtText::ToQt(captions.back)));
+    cmdCancel->setText(keys.Add(QtText::ToQt(captions.cancel)));
 } catch (...) {
     mError::ShowError(Procedure("Translate"));
 }
@@ -114,35 +105,37 @@ void ucWizard_Nav::SetNextButtonEnabled(bool value) {
     cmdNext->setEnabled(value);
 }
 
-// The page number is read again after NextClicked: a host that moved the wizard itself is followed by one
-// more step.
 void ucWizard_Nav::cmdNext_Click() {
-    bool cancel = false;
-    emit LeavePage(m_curPageNo, &cancel);
-    if (cancel)
-        return;
-    emit NextClicked(static_cast<int16_t>(m_curPageNo + 1), &cancel);
-    if (!cancel)
-        ShowPage(static_cast<int16_t>(m_curPageNo + 1));
+    m_nav.Next();
 }
 
 void ucWizard_Nav::cmdBack_Click() {
-    bool cancel = false;
-    emit LeavePage(m_curPageNo, &cancel);
-    if (cancel)
-        return;
-    emit BackClicked(static_cast<int16_t>(m_curPageNo - 1), &cancel);
-    if (!cancel)
-        ShowPage(static_cast<int16_t>(m_curPageNo - 1));
+    m_nav.Back();
 }
 
 void ucWizard_Nav::cmdCancel_Click() {
     emit CancelClicked();
 }
 
-void ucWizard_Nav::RefreshNavButtons() try {
-    cmdBack->setEnabled(m_curPageNo >= 2);
-    cmdNext->setEnabled(m_curPageNo < m_pageCount);
+void ucWizard_Nav::OnLeavePage(int16_t pageNo, bool& cancel) {
+    emit LeavePage(pageNo, &cancel);
+}
+
+void ucWizard_Nav::OnBackClicked(int16_t pageNo, bool& cancel) {
+    emit BackClicked(pageNo, &cancel);
+}
+
+void ucWizard_Nav::OnNextClicked(int16_t pageNo, bool& cancel) {
+    emit NextClicked(pageNo, &cancel);
+}
+
+void ucWizard_Nav::OnPageShowing(int16_t pageNo) {
+    emit PageShowing(pageNo);
+}
+
+void ucWizard_Nav::OnRefreshButtons(bool backEnabled, bool nextEnabled) try {
+    cmdBack->setEnabled(backEnabled);
+    cmdNext->setEnabled(nextEnabled);
 } catch (...) {
     mError::ShowError(Procedure("RefreshNavButtons"));
 }

@@ -1,25 +1,25 @@
-// A wizard's button bar: Back, Next and Cancel at its right end between two rules. It counts the pages and
-// asks its host before every move: LeavePage for the page that is left (in either direction), then
-// BackClicked or NextClicked for the page that would be shown; any of them can stop the move by setting
-// the cancel flag. Back is enabled from page 2 on, Next below PageCount.
+// A wizard's button bar: Back, Next and Cancel at its right end between two rules. Its pages move as
+// cWizardNav moves them, and its host hears of every move through the signals.
 #pragma once
 
 #include <QString>
 #include <QWidget>
 #include <cstdint>
 
+#include "shortcuts/cWizardNav.h"
+
 class HLine;
 class QPushButton;
 
-class ucWizard_Nav : public QWidget {
+class ucWizard_Nav : public QWidget, private cWizardNav::Host {
     Q_OBJECT
 
 public:
     explicit ucWizard_Nav(QWidget* parent = nullptr);
 
-    int16_t PageCount() const { return m_pageCount; }
+    int16_t PageCount() const { return m_nav.PageCount(); }
     void SetPageCount(int16_t value);
-    int16_t CurPageNo() const { return m_curPageNo; }
+    int16_t CurPageNo() const { return m_nav.CurPageNo(); }
 
     // Makes `pageNo` the page shown: raises PageShowing, then refreshes the buttons.
     void ShowPage(int16_t pageNo);
@@ -45,7 +45,11 @@ private:
     void cmdBack_Click();
     void cmdNext_Click();
     void cmdCancel_Click();
-    void RefreshNavButtons();
+    void OnLeavePage(int16_t pageNo, bool& cancel) override;
+    void OnBackClicked(int16_t pageNo, bool& cancel) override;
+    void OnNextClicked(int16_t pageNo, bool& cancel) override;
+    void OnPageShowing(int16_t pageNo) override;
+    void OnRefreshButtons(bool backEnabled, bool nextEnabled) override;
 
     HLine* Line1;
     QWidget* Picture1;
@@ -53,6 +57,5 @@ private:
     QPushButton* cmdNext;
     QPushButton* cmdCancel;
     HLine* Line2;
-    int16_t m_pageCount = 0;
-    int16_t m_curPageNo = 0;
+    cWizardNav m_nav{*this};
 };

@@ -90,6 +90,7 @@ private:
     void mnuProfile_Rename_Click();
     void RunProfileCommand(frmMainCommands::ProfileCommand command);
     void mnuEditCopy_CmdLine_Click();
+    void mnuExtra_CreateShortcut_Click();
     void mnuOptions_Lang_Item_Click(int index);
     void Form_QueryUnloadAndClose();
     void Form_Unload();

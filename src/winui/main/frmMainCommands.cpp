@@ -18,6 +18,7 @@
 #include "winui/dialogs/frmUpdate.h"
 #include "winui/main/Pages.h"
 #include "winui/main/frmMain.h"
+#include "winui/shortcuts/frmCreateTarvolinShortcut_New.h"
 
 namespace {
 
@@ -86,6 +87,8 @@ void frmMain::RunCommand(int id) {
          "frmMain.mnuEditPaste_Profile_Click"},
         {IDM_mnuEditCopy_CmdLine, [](frmMain& w, HWND) { w.mnuEditCopy_CmdLine_Click(); },
          "frmMain.mnuEditCopy_CmdLine_Click"},
+        {IDM_mnuExtra_CreateShortcut, [](frmMain& w, HWND) { w.mnuExtra_CreateShortcut_Click(); },
+         "frmMain.mnuExtra_CreateShortcut_Click"},
         {IDM_mnuExtra_Options,
          [](frmMain& w, HWND) {
              frmOptions dialog;
@@ -126,6 +129,14 @@ void frmMain::RunCommand(int id) {
             return;
         }
     }
+}
+
+// The wizard gets the profile with the window's input written into it.
+void frmMain::mnuExtra_CreateShortcut_Click() {
+    RefreshProfileData();
+    frmCreateTarvolinShortcut_New dialog;
+    dialog.InitDialog(*App().ActiveProfile());
+    dialog.ShowModal(Handle());
 }
 
 void frmMain::cmdStart_Click() {

@@ -12,6 +12,9 @@
 
 namespace {
 
+// The extra menu opens with the shortcut wizard's entry, then the language list.
+constexpr int kLanguageListPosition = 1;
+
 // A caption shown as it is: a name's "&" is no Alt+letter.
 std::string Literal(const std::string& text) {
     std::string escaped;
@@ -107,10 +110,12 @@ void frmMain::ShowProfileList() try {
     mError::ShowError("frmMain.FillProfileList");
 }
 
-// The extra menu: the language list, and the accessories when the language editor is there.
+// The extra menu: the shortcut wizard, the language list, and the accessories when the language editor is
+// there.
 void frmMain::InitLanguageList() try {
     while (GetMenuItemCount(mnuExtra) > 0)
         DeleteMenu(mnuExtra, 0, MF_BYPOSITION);
+    Add(mnuExtra, IDM_mnuExtra_CreateShortcut, "MNU_EXTRA_CREATESHORTCUT");
     mnuOptions_Lang = CreatePopupMenu();
     AppendMenuA(mnuExtra, MF_POPUP, reinterpret_cast<UINT_PTR>(mnuOptions_Lang),
                 MainPage::Text("MNU_EXTRA_LANGUAGE").c_str());
@@ -134,7 +139,7 @@ void frmMain::HighligthSelectedLanguage() try {
 // editor is there.
 void frmMain::RefreshAccessoriesMenu() try {
     const int count = GetMenuItemCount(mnuExtra);
-    for (int i = count - 1; i >= 1; --i)
+    for (int i = count - 1; i > kLanguageListPosition; --i)
         DeleteMenu(mnuExtra, static_cast<UINT>(i), MF_BYPOSITION);
     Add(mnuExtra, IDM_mnuExtra_Options, "MNU_EXTRA_OPTIONS");
     Add(mnuExtra, IDM_mnuExtra_Update, "MNU_EXTRA_INTERNETUPDATE");
