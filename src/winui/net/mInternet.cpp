@@ -2,6 +2,7 @@
 
 #include <wininet.h>
 
+#include <algorithm>
 #include <atomic>
 #include <mutex>
 #include <thread>
@@ -120,7 +121,13 @@ Outcome ReadBody(Download::State& state, HINTERNET request) {
     std::string body;
     char buffer[kReadSize];
     for (DWORD read = 0;; body.append(buffer, read)) {
-        if (!InternetReadFile(request, buffer, sizeof buffer, &read))
+        // Only what has arrived is asked for, so that a trickling server cannot hold a read until the buffer
+        // is full: an ended download's thread notices it with the next piece.
+        DWORD available = 0;
+        if (!InternetQueryDataAvailable(request, &available, 0, 0))
+            return Failure(kNotFound, LastError());
+        const DWORD wanted = available == 0 ? kReadSize : std::min(available, kReadSize);
+        if (!InternetReadFile(request, buffer, wanted, &read))
             return Failure(kNotFound, LastError());
         // WinINet takes a closed connection for the end of the reply, whatever length the reply announced.
         if (read == 0 && length && body.size() != *length)
