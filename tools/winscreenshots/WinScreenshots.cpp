@@ -25,6 +25,8 @@ using std::min;
 #include "app/mMain.h"
 #include "profiles/Profile.h"
 #include "resource.h"
+#include "support/TestHttpServer.h"
+#include "update/UpdateFile.h"
 #include "winui/Main.h"
 #include "winui/Modal.h"
 #include "winui/Win32UserInterface.h"
@@ -32,6 +34,7 @@ using std::min;
 #include "winui/dialogs/frmEditProfile.h"
 #include "winui/dialogs/frmInfo.h"
 #include "winui/dialogs/frmProfiles.h"
+#include "winui/dialogs/frmUpdate.h"
 #include "winui/main/frmMain.h"
 #include "winui/shortcuts/frmCreateTarvolinShortcut_New.h"
 
@@ -109,6 +112,29 @@ void GrabModal(ModalDialog& dialog, const char* name) {
     dialog.Dismiss();
 }
 
+// The update window while a check runs (against a server that never answers) and after one found an update.
+void GrabUpdate(frmUpdate& dialog) {
+    TestHttpServer server;
+    update::InstallSite(update::Site{"http", "127.0.0.1", server.Port()});
+    const std::string file = "/down/pavonel/updates/" + update::FileName();
+    const auto check = [&](const TestHttpServer::Route& reply) {
+        server.Serve(file, reply);
+        SendDlgItemMessageA(dialog.Handle(), IDC_cmdSearchUpdates, BM_CLICK, 0, 0);
+        for (int waited = 0; dialog.Searching() && waited < 5000; waited += 50)
+            Pump(50);
+    };
+    server.Serve(file, TestHttpServer::Behaving(TestHttpServer::Kind::Silent));
+    SendDlgItemMessageA(dialog.Handle(), IDC_cmdSearchUpdates, BM_CLICK, 0, 0);
+    Grab(dialog.Handle(), "frmUpdate_Searching");
+    SendDlgItemMessageA(dialog.Handle(), IDC_cmdSearchUpdates, BM_CLICK, 0, 0);
+    check(
+        TestHttpServer::Ok("true\n/download/pavonel-0.2.0.html\nVersion 0.2.0 starts twice as fast.\r\n"
+                           "It knows the game's new scenarios.\r\n"));
+    Grab(dialog.Handle(), "frmUpdate_Found");
+    update::InstallSite(std::nullopt);
+    dialog.Dismiss();
+}
+
 void RenderLanguage(const std::string& folder, const std::string& language) {
     WriteSettings(folder, language);
     frmMain* main = Main();
@@ -141,6 +167,8 @@ void RenderLanguage(const std::string& folder, const std::string& language) {
             }
             wizard->Dismiss();
         }
+        if (auto* update = dynamic_cast<frmUpdate*>(&dialog))
+            GrabUpdate(*update);
         for (const auto& [layout, name] : windows)
             if (dialog.Layout() == layout)
                 GrabModal(dialog, name);
@@ -159,6 +187,7 @@ void RenderLanguage(const std::string& folder, const std::string& language) {
     SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuExtra_Options, 0);
     SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuHelp_About, 0);
     SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuExtra_CreateShortcut, 0);
+    SendMessageA(main->Handle(), WM_COMMAND, IDM_mnuExtra_Update, 0);
     active.SetFreeplay(!active.Freeplay());
     Ui().ShowSaveDialog();
     // A width that is no number: the report of the failed save.
