@@ -35,7 +35,9 @@ void ModalDialog::Dismiss() {
         ShowWindow(Handle(), SW_HIDE);
 }
 
+// A window sets all its captions as it opens: its language files are looked at once for all of them.
 void ModalDialog::OnInit() {
+    const cTranslate::Batch texts;
     MakeControls();
     TranslateDialog();
     OnShow();
