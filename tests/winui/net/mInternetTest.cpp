@@ -7,7 +7,7 @@
 
 #include <chrono>
 
-#include "support/TestHttpServer.h"
+#include "support/DownloadCases.h"
 
 namespace {
 
@@ -18,21 +18,12 @@ using Server = TestHttpServer;
 using Clock = std::chrono::steady_clock;
 
 constexpr UINT kEnded = WM_APP + 7;
-constexpr mInternet::Limits kLimits{1s, 64 * 1024, 5};
+constexpr mInternet::Limits kLimits = kDownloadCaseLimits;
 constexpr std::chrono::milliseconds kMargin = 1500ms;
-const std::string kUpdate = "true\n/page\nnews 1\nnews 2\n";
-const std::string kFull(kLimits.maxBytes, 'a');
 
 class mInternetTest : public ::testing::Test {
 protected:
-    mInternetTest() {
-        server.Serve("/update", Server::Ok(kUpdate));
-        for (int hop = 1; hop < kLimits.maxRedirects; ++hop) {
-            const std::string next =
-                hop + 1 < kLimits.maxRedirects ? "/hop" + std::to_string(hop + 1) : "/update";
-            server.Serve("/hop" + std::to_string(hop), Server::Redirect(next));
-        }
-    }
+    mInternetTest() { ServeDownloadRoutes(server); }
     ~mInternetTest() override { DestroyWindow(window); }
 
     // Runs the window's messages until `download` tells or `wait` has passed; how many times it told.
@@ -53,19 +44,7 @@ protected:
     HWND window = CreateWindowExA(0, "STATIC", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
 };
 
-struct Case {
-    const char* name;
-    Server::Route route;  // served at "/"
-    std::string body{};
-    const char* failure = "";  // empty when the download finishes
-    std::string address{};     // when not the server's "/"
-};
-
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
-
-class mInternetDownload : public mInternetTest, public ::testing::WithParamInterface<Case> {};
+class mInternetDownload : public mInternetTest, public ::testing::WithParamInterface<DownloadCase> {};
 
 TEST_P(mInternetDownload, EndsOnceInTimeOnlyAskingItsOwnHost) {
     server.Serve("/", GetParam().route);
@@ -80,42 +59,11 @@ TEST_P(mInternetDownload, EndsOnceInTimeOnlyAskingItsOwnHost) {
     EXPECT_EQ(outcome->body, GetParam().body);
     EXPECT_EQ(outcome->description, GetParam().failure);
     EXPECT_EQ(Wait(download, 300ms), 0);
-    EXPECT_LE(server.Requests().size(), static_cast<std::size_t>(kLimits.maxRedirects) + 1);
-    for (const Server::Request& request : server.Requests()) {
-        EXPECT_EQ(request.host, server.Host()) << request.path;
-        EXPECT_EQ(request.agent, mInternet::kAgent);
-    }
+    ExpectOnlyItsOwnHostAsked(server);
 }
 
-using mInternet::kNoInternet;
-using mInternet::kNotFound;
-
-INSTANTIATE_TEST_SUITE_P(
-    mInternet, mInternetDownload,
-    ::testing::Values(
-        Case{"Empty", Server::Ok("")}, Case{"UpdateFile", Server::Ok(kUpdate), kUpdate},
-        Case{"ExactlyTheLimitWithoutLength", Server::Ok(kFull, false), kFull},
-        Case{"RedirectOnTheSameHost", Server::Redirect("/update"), kUpdate},
-        Case{"AbsoluteRedirectOnTheSameHost", Server::Redirect("http://127.0.0.1:{port}/update"), kUpdate},
-        Case{"AsManyRedirectsAsAllowed", Server::Redirect("/hop1"), kUpdate},
-        Case{"NotFound", Server::Status(404), {}, kNotFound},
-        Case{"SuccessOtherThan200", Server::Status(203), {}, kNotFound},
-        Case{"OneByteOverTheLimit", Server::Ok(kFull + 'a'), {}, kNotFound},
-        Case{"OneByteOverTheLimitWithoutLength", Server::Ok(kFull + 'a', false), {}, kNotFound},
-        Case{"Silent", Server::Behaving(Server::Kind::Silent), {}, kNotFound},
-        Case{"Trickling", {.kind = Server::Kind::Trickle, .interval = 100ms}, {}, kNotFound},
-        Case{"CutShort", Server::Behaving(Server::Kind::CutShort), {}, kNotFound},
-        Case{"ClosedBeforeItsLength",
-             {.body = "short", .headers = {{"Content-Length", "100"}}, .announceLength = false},
-             {},
-             kNotFound},
-        Case{"RedirectLoop", Server::Redirect("/"), {}, kNotFound},
-        Case{"RedirectElsewhere", Server::Redirect("http://other.invalid/x"), {}, kNotFound},
-        Case{"RedirectToLocalhost", Server::Redirect("http://localhost:{port}/x"), {}, kNotFound},
-        Case{"RedirectToHttps", Server::Redirect("https://127.0.0.1:{port}/x"), {}, kNotFound},
-        Case{"FtpAddress", {}, {}, kNoInternet, "ftp://x/y"},
-        Case{"NoAddress", {}, {}, kNoInternet, "not a url"}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(mInternet, mInternetDownload, ::testing::ValuesIn(DownloadCases()),
+                         DownloadCaseName);
 
 // Cancelled while the server is silent, or at once: nothing is told, not even when the time limit passed.
 TEST_F(mInternetTest, CancelledDownloadsTellNothing) {
