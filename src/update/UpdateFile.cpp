@@ -2,6 +2,7 @@
 
 #include "Version.h"
 #include "base/mString.h"
+#include "error/mError.h"
 
 namespace update {
 namespace {
@@ -77,6 +78,15 @@ std::optional<std::string> PageAddress(const std::string& path) {
             return std::nullopt;
     }
     return CurrentSite().Origin() + path;
+}
+
+std::string CheckedPageAddress(const Reply& reply) {
+    const std::optional<std::string> page = PageAddress(reply.pagePath);
+    if (!page) {
+        mError::RaiseError(kForeignUpdatePage, "The update file names a page outside " +
+                                                   CurrentSite().Origin() + ": " + reply.pagePath);
+    }
+    return *page;
 }
 
 }  // namespace update

@@ -54,4 +54,7 @@ inline constexpr std::size_t kMaxPagePath = 2048;
 // character.
 std::optional<std::string> PageAddress(const std::string& path);
 
+// The update page of `reply`'s path; raises kForeignUpdatePage, naming the path, when PageAddress refuses it.
+std::string CheckedPageAddress(const Reply& reply);
+
 }  // namespace update

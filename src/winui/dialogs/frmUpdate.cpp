@@ -84,13 +84,7 @@ void frmUpdate::ShowReply(const std::string& body) {
                      TranslateDialogItem(reply.updateExists ? "MSG_UPDATE_FOUND" : "MSG_NO_UPDATE"));
     if (!reply.updateExists)
         return;
-    const std::optional<std::string> page = update::PageAddress(reply.pagePath);
-    if (!page) {
-        mError::RaiseError(
-            update::kForeignUpdatePage,
-            "The update file names a page outside " + update::CurrentSite().Origin() + ": " + reply.pagePath);
-    }
-    m_updatePage = *page;
+    m_updatePage = update::CheckedPageAddress(reply);
     EnableWindow(Item(IDC_cmdOpenUpdatePage), TRUE);
 }
 
