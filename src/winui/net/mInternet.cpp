@@ -37,6 +37,9 @@ struct Download::State {
 
 namespace {
 
+using update::kNoInternet;
+using update::kNotFound;
+
 constexpr DWORD kReadSize = 2048;
 constexpr DWORD kStatusOk = 200;
 constexpr DWORD kFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE | INTERNET_FLAG_PRAGMA_NOCACHE |
@@ -144,7 +147,7 @@ Outcome ReadBody(Download::State& state, HINTERNET request) {
 // The whole download, on its own thread: asks the address, follows the redirects it may, and reads the
 // reply. Every way out tells its outcome (which counts only while nobody ended the download).
 Outcome Fetch(Download::State& state, std::string address, int32_t accessType) {
-    Handle internet(InternetOpenA(kAgent, static_cast<DWORD>(accessType), nullptr, nullptr, 0));
+    Handle internet(InternetOpenA(update::kAgent, static_cast<DWORD>(accessType), nullptr, nullptr, 0));
     if (!internet)
         return Failure(kNoInternet, LastError());
     const std::optional<update::Site> origin = SiteOf(address);

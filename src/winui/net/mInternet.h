@@ -1,9 +1,6 @@
-// The download of one small text file from the web through WinINet, never from a cache, through the
-// system's proxy settings, as "Pavonel Internet Update". A reply counts only with HTTP status 200, complete
-// and within the limits: the whole download ends after its time limit (also when data keeps trickling in),
-// a reply longer than its byte limit is a failure rather than a cut text (refused unread when its length is
-// announced), and redirects are followed by hand, only on the address's own site and only so many.
-// It runs on a thread of its own and tells its outcome by posting a message to a window, so the window
+// The download of the update file through WinINet, within the limits that every download of it keeps
+// (update/DownloadRules): never from a cache, through the system's proxy settings, redirects followed by
+// hand. It runs on a thread of its own and tells its outcome by posting a message to a window, so the window
 // stays responsive; a cancelled download tells nothing more, at once.
 #pragma once
 
@@ -18,15 +15,12 @@
 
 namespace mInternet {
 
-using update::kAgent;
-using update::kNoInternet;
-using update::kNotFound;
 using update::Limits;
 
 struct Outcome {
     bool finished = false;
     std::string body;         // the reply's body once finished
-    std::string description;  // kNoInternet or kNotFound once failed
+    std::string description;  // update::kNoInternet or update::kNotFound once failed
     std::string detail;       // what happened, for the user
 };
 
