@@ -30,6 +30,14 @@ struct Command {
     const char* trail;
 };
 
+// A window that needs nothing from the main window but its place, shown over it until it is closed.
+template <class Window>
+void Show(frmMain& main, HWND) {
+    Window dialog;
+    dialog.InitDialog();
+    dialog.ShowModal(main.Handle());
+}
+
 }  // namespace
 
 void frmMain::OnCommand(int id, int code) {
@@ -89,27 +97,9 @@ void frmMain::RunCommand(int id) {
          "frmMain.mnuEditCopy_CmdLine_Click"},
         {IDM_mnuExtra_CreateShortcut, [](frmMain& w, HWND) { w.mnuExtra_CreateShortcut_Click(); },
          "frmMain.mnuExtra_CreateShortcut_Click"},
-        {IDM_mnuExtra_Options,
-         [](frmMain& w, HWND) {
-             frmOptions dialog;
-             dialog.InitDialog();
-             dialog.ShowModal(w.Handle());
-         },
-         "frmMain.mnuExtra_Options_Click"},
-        {IDM_mnuExtra_Update,
-         [](frmMain& w, HWND) {
-             frmUpdate dialog;
-             dialog.InitDialog();
-             dialog.ShowModal(w.Handle());
-         },
-         "frmMain.mnuExtra_Update_Click"},
-        {IDM_mnuHelp_About,
-         [](frmMain& w, HWND) {
-             frmInfo dialog;
-             dialog.InitDialog();
-             dialog.ShowModal(w.Handle());
-         },
-         "frmMain.mnuHelp_About_Click"},
+        {IDM_mnuExtra_Options, Show<frmOptions>, "frmMain.mnuExtra_Options_Click"},
+        {IDM_mnuExtra_Update, Show<frmUpdate>, "frmMain.mnuExtra_Update_Click"},
+        {IDM_mnuHelp_About, Show<frmInfo>, "frmMain.mnuHelp_About_Click"},
         {IDM_mnuExtra_Accessories_LanguageEditor,
          [](frmMain&, HWND h) {
              Os().ShellExec(OwnerOf(h), "open", "LanguageEditor.exe", "", App().GetToolsDirectory(),
