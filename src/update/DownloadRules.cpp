@@ -23,6 +23,10 @@ std::string RedirectRefusal(const Site& origin, const Site& target, const std::s
     return {};
 }
 
+bool IsRedirect(int status, const std::string& location) {
+    return status >= 300 && status < 400 && !location.empty();
+}
+
 std::string StatusRefusal(int status) {
     return "HTTP status " + std::to_string(status);
 }

@@ -33,7 +33,11 @@ int32_t EffectivePort(const Site& site);
 std::string RedirectRefusal(const Site& origin, const Site& target, const std::string& shown, int redirect,
                             const Limits& limits);
 
+// Whether a reply with `status` sends the download on to `location` rather than being the answer.
+bool IsRedirect(int status, const std::string& location);
+
 // The user's description of the failures every download tells the same way.
+inline constexpr const char* kNotWebAddress = "not a web address";
 inline constexpr const char* kCutShort = "the connection was closed before the reply was complete";
 std::string StatusRefusal(int status);
 std::string TimeoutRefusal(const Limits& limits);

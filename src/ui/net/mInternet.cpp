@@ -51,7 +51,7 @@ Download::Download(const std::string& address, int32_t /*accessType*/, Limits li
             if (m_over)
                 return;
             m_over = true;
-            emit Failed(QString::fromLatin1(kNoInternet), QStringLiteral("not a web address"));
+            emit Failed(QString::fromLatin1(kNoInternet), QString::fromLatin1(update::kNotWebAddress));
         });
         return;
     }
@@ -161,7 +161,7 @@ void Download::Ended() {
 
 void Download::Done() {
     const int status = m_reply->Status();
-    if (status >= 300 && status < 400 && !m_reply->Location().empty()) {
+    if (update::IsRedirect(status, m_reply->Location())) {
         Redirected(m_current.resolved(QUrl(QtText::ToQt(m_reply->Location()))));
         return;
     }

@@ -152,18 +152,21 @@ Outcome Fetch(Download::State& state, std::string address, int32_t accessType) {
         return Failure(kNoInternet, LastError());
     const std::optional<update::Site> origin = SiteOf(address);
     if (!origin)
-        return Failure(kNoInternet, "not a web address");
+        return Failure(kNoInternet, update::kNotWebAddress);
     DWORD timeout = static_cast<DWORD>(state.limits.timeout.count());
     for (const DWORD option :
          {INTERNET_OPTION_CONNECT_TIMEOUT, INTERNET_OPTION_SEND_TIMEOUT, INTERNET_OPTION_RECEIVE_TIMEOUT})
         InternetSetOptionA(internet.get(), option, &timeout, sizeof timeout);
-    for (int redirect = 1;; ++redirect) {
+    // An ended download asks nothing more: it stops before each request and after each answer.
+    for (int redirect = 1; !state.Over(); ++redirect) {
         Handle request(InternetOpenUrlA(internet.get(), address.c_str(), nullptr, 0, kFlags, 0));
+        if (state.Over())
+            break;
         if (!request)
             return Failure(kNotFound, LastError());
         const DWORD status = NumberOf(request.get(), HTTP_QUERY_STATUS_CODE).value_or(0);
         const std::string location = TextOf(request.get(), HTTP_QUERY_LOCATION);
-        if (status < 300 || status >= 400 || location.empty()) {
+        if (!update::IsRedirect(static_cast<int>(status), location)) {
             if (status != kStatusOk)
                 return Failure(kNotFound, update::StatusRefusal(static_cast<int>(status)));
             return ReadBody(state, request.get());
@@ -175,6 +178,7 @@ Outcome Fetch(Download::State& state, std::string address, int32_t accessType) {
             return Failure(kNotFound, refusal);
         address = target;
     }
+    return {};
 }
 
 // Runs on the thread pool once the time limit has passed.
@@ -192,13 +196,23 @@ Download::Download(const std::string& address, int32_t accessType, HWND window, 
     m_state->message = message;
     m_state->id = ++serial;
     m_state->limits = limits;
+    // Without its time limit no download starts: a trickling server could hold it for days.
     if (!CreateTimerQueueTimer(&m_deadline, nullptr, TimeUp, m_state.get(),
-                               static_cast<DWORD>(limits.timeout.count()), 0, WT_EXECUTEONLYONCE))
+                               static_cast<DWORD>(limits.timeout.count()), 0, WT_EXECUTEONLYONCE)) {
         m_deadline = nullptr;
+        m_state->Tell(Failure(kNoInternet, "no time limit could be set: " + LastError()));
+        return;
+    }
     // The thread keeps its own share of the state: a cancelled download's thread may end after the window.
-    std::thread([state = m_state, address, accessType] {
-        state->Tell(Fetch(*state, address, accessType));
-    }).detach();
+    // A thread that cannot start leaves no timer behind on a state about to go.
+    try {
+        std::thread([state = m_state, address, accessType] {
+            state->Tell(Fetch(*state, address, accessType));
+        }).detach();
+    } catch (...) {
+        Cancel();
+        throw;
+    }
 }
 
 Download::~Download() {

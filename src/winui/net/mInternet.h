@@ -34,8 +34,9 @@ public:
     Download(const Download&) = delete;
     Download& operator=(const Download&) = delete;
 
-    // Ends the download: nothing is told afterwards. A connection the download still holds goes once the
-    // network library returns, within the time limit.
+    // Ends the download: nothing is told afterwards, and its thread asks nothing more. A request already
+    // under way ends with the server's next piece, or at the latest after the time limit, which is also
+    // WinINet's limit for each wait on the server.
     void Cancel();
     // Tells this download's message from a stale one.
     WPARAM Id() const;
