@@ -95,7 +95,7 @@ TEST_F(frmUpdateTest, AFailureIsReportedAndTheWindowStaysOpen) {
         << reports[0];
 }
 
-// While a check runs the busy bar shows and the button cancels; cancelled, the window tells nothing of it.
+// While a check runs the busy bar shows and the button cancels it; closing the window ends it too.
 TEST_F(frmUpdateTest, TheCheckButtonCancelsARunningCheck) {
     server.Serve("/down/pavonel/updates/" + update::FileName(),
                  TestHttpServer::Behaving(TestHttpServer::Kind::Silent));
