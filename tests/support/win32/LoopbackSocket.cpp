@@ -18,12 +18,20 @@ SOCKET Native(Socket socket) {
     return static_cast<SOCKET>(socket);
 }
 
+// A program the test starts must not hold the server's connections open past their end, as POSIX's
+// close-on-exec makes sure there.
+SOCKET Private(SOCKET socket) {
+    if (socket != INVALID_SOCKET)
+        SetHandleInformation(reinterpret_cast<HANDLE>(socket), HANDLE_FLAG_INHERIT, 0);
+    return socket;
+}
+
 }  // namespace
 
 Socket Listen(int& port) {
     if (!Started())
         return kNoSocket;
-    const SOCKET listener = socket(AF_INET, SOCK_STREAM, IPPROTO_TCP);
+    const SOCKET listener = Private(socket(AF_INET, SOCK_STREAM, IPPROTO_TCP));
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
@@ -45,7 +53,7 @@ bool WaitReadable(Socket socket, std::chrono::milliseconds wait) {
 }
 
 Socket Accept(Socket listener) {
-    const SOCKET client = accept(Native(listener), nullptr, nullptr);
+    const SOCKET client = Private(accept(Native(listener), nullptr, nullptr));
     return client == INVALID_SOCKET ? kNoSocket : static_cast<Socket>(client);
 }
 
