@@ -21,10 +21,6 @@ constexpr int32_t kNoBrowsing = -1;
 // The two not-found messages pass a style that names no button set or icon, as they always have.
 constexpr int kNotFoundStyle = 10;
 
-std::string Procedure(const char* name) {
-    return std::string("frmCreateTarvolinShortcut_New.") + name;
-}
-
 std::string Text(const std::string& key) {
     return Translator().TranslateEx(ShortcutWizard::kSection, key);
 }

@@ -23,6 +23,11 @@ public:
         "LBL_DEST_DESKTOP", "LBL_DEST_STARTMENU", "LBL_DEST_QUICK_LAUNCH", "LBL_DEST_OTHER"};
     static constexpr const char* kSection = "CREATE_SHORTCUT_DIALOG_NEW";
 
+    // The trail name of the wizard's procedure `name`, as both faces' reports carry it.
+    static std::string Procedure(const char* name) {
+        return std::string("frmCreateTarvolinShortcut_New.") + name;
+    }
+
     // What the pages show, as the user left it.
     struct Fields {
         std::string target;

@@ -18,9 +18,7 @@
 
 namespace {
 
-std::string Procedure(const char* name) {
-    return std::string("frmCreateTarvolinShortcut_New.") + name;
-}
+const auto Procedure = ShortcutWizard::Procedure;
 
 std::string Text(const ucPath* field) {
     return QtText::FromQt(field->Text());

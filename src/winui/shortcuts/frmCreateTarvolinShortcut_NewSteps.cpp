@@ -11,9 +11,7 @@
 
 namespace {
 
-std::string Procedure(const char* name) {
-    return std::string("frmCreateTarvolinShortcut_New.") + name;
-}
+const auto Procedure = ShortcutWizard::Procedure;
 
 bool Checked(HWND box) {
     return Button_GetCheck(box) == BST_CHECKED;
