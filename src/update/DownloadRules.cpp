@@ -3,13 +3,17 @@
 #include "base/mString.h"
 
 namespace update {
+namespace {
 
+// The port a site is reached on: its own, or its scheme's (80, 443); 0 for a scheme without one.
 int32_t EffectivePort(const Site& site) {
     if (site.port != 0)
         return site.port;
     const std::string scheme = mString::LCase(site.scheme);
     return scheme == "http" ? 80 : scheme == "https" ? 443 : 0;
 }
+
+}  // namespace
 
 std::string RedirectRefusal(const Site& origin, const Site& target, const std::string& shown, int redirect,
                             const Limits& limits) {

@@ -23,9 +23,6 @@ struct Limits {
     int maxRedirects = 5;
 };
 
-// The port a site is reached on: its own, or its scheme's (80, 443); 0 for a scheme without one.
-int32_t EffectivePort(const Site& site);
-
 // Why the download does not follow redirect number `redirect` (counting from 1) to `target`, "" when it
 // does: a redirect stays on the origin's scheme, host and port (so a reply fetched over https never
 // continues over plain http), and no more than limits.maxRedirects of them are followed. `shown` is the

@@ -12,8 +12,6 @@
 
 frmUpdate::frmUpdate() : ModalDialog("frmUpdate", IDD_frmUpdate, "UPDATE_DIALOG") {}
 
-frmUpdate::~frmUpdate() = default;
-
 void frmUpdate::InitDialog() try {
     ResetCancel();
     m_updatePage.clear();

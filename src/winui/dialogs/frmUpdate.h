@@ -16,7 +16,6 @@ public:
     static constexpr UINT kDownloadEnded = WM_APP + 1;
 
     frmUpdate();
-    ~frmUpdate() override;
     void InitDialog();
 
     // True while a check runs.

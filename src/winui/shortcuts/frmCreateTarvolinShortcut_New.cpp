@@ -101,7 +101,7 @@ void frmCreateTarvolinShortcut_New::OnCommand(int id, int code) {
     if (nav.OnCommand(id, code))
         return;
     const auto entry = [](const char* name, auto&& action) {
-        mError::AsEntryPoint(std::string("frmCreateTarvolinShortcut_New.") + name, action);
+        mError::AsEntryPoint(ShortcutWizard::Procedure(name), action);
     };
     if (id == IDC_txtDest && code == EN_CHANGE)
         entry("txtDest_Change", [this] { SetDefaultLinkName(); });
